@@ -1,0 +1,25 @@
+# What every target of the project is compiled with.
+add_library(kelvane_flags INTERFACE)
+target_include_directories(kelvane_flags INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(MSVC)
+  target_compile_options(kelvane_flags INTERFACE /W4 /utf-8 /fp:precise)
+  target_compile_definitions(kelvane_flags INTERFACE _CRT_SECURE_NO_WARNINGS NOMINMAX)
+  if(KELVANE_WARNINGS_AS_ERRORS)
+    target_compile_options(kelvane_flags INTERFACE /WX)
+  endif()
+else()
+  # Reports show the place of a check below the source root, and floats are rounded after every single operation.
+  target_compile_options(kelvane_flags INTERFACE
+    -Wall -Wextra -Wshadow -Wconversion -Wpedantic
+    -ffp-contract=off
+    -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
+  if(KELVANE_WARNINGS_AS_ERRORS)
+    target_compile_options(kelvane_flags INTERFACE -Werror)
+  endif()
+  if(KELVANE_SANITIZE)
+    target_compile_options(kelvane_flags INTERFACE
+      -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(kelvane_flags INTERFACE -fsanitize=address,undefined)
+  endif()
+endif()

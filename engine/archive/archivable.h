@@ -1,0 +1,27 @@
+#pragma once
+
+#include "engine/archive/archive.h"
+
+namespace Vorn {
+
+// A group of fields that an archive nests under one label.
+class Archivable {
+public:
+    virtual ~Archivable() = default;
+
+    // Reads with a version number from the caller, which most records ignore.
+    virtual void Read(Archive& archive, std::int32_t version);
+    virtual void Read(Archive& archive) = 0;
+    virtual void Write(Archive& archive) const = 0;
+};
+
+// A value that stores itself as one entry under the label that its owner passes.
+class SingleLineArchivable {
+public:
+    virtual ~SingleLineArchivable() = default;
+
+    virtual void Read(Label label, Archive& archive) = 0;
+    virtual void Write(Label label, Archive& archive) const = 0;
+};
+
+} // namespace Vorn

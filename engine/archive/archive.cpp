@@ -1,0 +1,20 @@
+#include "engine/archive/archive.h"
+
+#include "engine/core/report.h"
+
+namespace Vorn {
+
+void Archive::Read(Label label, std::uint32_t& value, int) {
+    Read(label, value);
+}
+
+void Archive::Write(Label label, const std::uint32_t& value, int) {
+    Write(label, value);
+}
+
+void Archive::SetVersion(std::int32_t _version) {
+    CheckAssert(version == kNoVersion || _version == kNoVersion, "version == -1 || _version == -1");
+    version = _version;
+}
+
+} // namespace Vorn

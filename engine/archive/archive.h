@@ -1,0 +1,96 @@
+#pragma once
+
+#include "engine/math/bool.h"
+#include "engine/math/color.h"
+#include "engine/math/matrix33.h"
+#include "engine/math/matrix44.h"
+#include "engine/math/point.h"
+#include "engine/math/quad.h"
+#include "engine/math/rectangle.h"
+#include "engine/math/size.h"
+#include "engine/math/vector3.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace Vorn {
+
+class Archivable;
+class SingleLineArchivable;
+
+// A field's key. Binary forms ignore it, also an empty one.
+using Label = std::u16string_view;
+
+// The one interface between records and files. A record calls it for every field, in a fixed order; the same calls read
+// or write every file form. A read that finds nothing reports it and leaves its destination untouched; nothing throws.
+class Archive {
+public:
+    static constexpr std::int32_t kNoVersion = -1;
+
+    Archive() = default;
+    Archive(const Archive&) = delete;
+    Archive& operator=(const Archive&) = delete;
+    virtual ~Archive() = default;
+
+    // By default the forms with a bit count forward to the Uint operations and ignore the count.
+    virtual void Read(Label label, std::uint32_t& value, int bitCount);
+    virtual void Read(Label label, Color& value) = 0;
+    virtual void Read(Label label, Rectangle& value) = 0;
+    virtual void Read(Label label, Size& value) = 0;
+    virtual void Read(Label label, Point& value) = 0;
+    virtual void Read(Label label, Quad& value) = 0;
+    virtual void Read(Label label, Matrix44& value) = 0;
+    virtual void Read(Label label, Matrix33& value) = 0;
+    virtual void Read(Label label, Vector3& value) = 0;
+    // `bufferSize` counts code units, terminator included. A longer text is reported and cut.
+    virtual void Read(Label label, char16_t* buffer, int bufferSize) = 0;
+    virtual void Read(Label label, std::int64_t& value) = 0;
+    virtual void Read(Label label, Bool& value) = 0;
+    virtual void Read(Label label, double& value) = 0;
+    virtual void Read(Label label, float& value) = 0;
+    virtual void Read(Label label, std::int32_t& value) = 0;
+    virtual void Read(Label label, std::uint32_t& value) = 0;
+    virtual void Read(Label label, SingleLineArchivable& value) = 0;
+    virtual void Read(Label label, Archivable& value, std::int32_t version) = 0;
+    virtual void Read(Label label, Archivable& value) = 0;
+
+    virtual void Write(Label label, const std::uint32_t& value, int bitCount);
+    virtual void Write(Label label, const Color& value) = 0;
+    virtual void Write(Label label, const Rectangle& value) = 0;
+    virtual void Write(Label label, const Size& value) = 0;
+    virtual void Write(Label label, const Point& value) = 0;
+    virtual void Write(Label label, const Quad& value) = 0;
+    virtual void Write(Label label, const Matrix44& value) = 0;
+    virtual void Write(Label label, const Matrix33& value) = 0;
+    virtual void Write(Label label, const Vector3& value) = 0;
+    virtual void Write(Label label, const char16_t* text, int bufferSize) = 0;
+    virtual void Write(Label label, const std::int64_t& value) = 0;
+    virtual void Write(Label label, const Bool& value) = 0;
+    virtual void Write(Label label, const double& value) = 0;
+    virtual void Write(Label label, const float& value) = 0;
+    virtual void Write(Label label, const std::int32_t& value) = 0;
+    virtual void Write(Label label, const std::uint32_t& value) = 0;
+    virtual void Write(Label label, const SingleLineArchivable& value) = 0;
+    virtual void Write(Label label, const Archivable& value) = 0;
+
+    // The version of the file that is read, kNoVersion for an old file or one that is written.
+    std::int32_t GetVersion() const { return version; }
+
+    // May be set only once; a second setting fires its check and goes on.
+    void SetVersion(std::int32_t _version);
+
+    // True once so many reads found their file at its end that no counted loop should go on: a damaged count must not
+    // keep the process busy for hours.
+    bool IsExhausted() const { return idleReads > kMaxIdleReads; }
+
+protected:
+    void CountIdleRead() { ++idleReads; }
+
+private:
+    static constexpr std::int32_t kMaxIdleReads = 1000000;
+
+    std::int32_t version = kNoVersion;
+    std::int32_t idleReads = 0;
+};
+
+} // namespace Vorn

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Vorn {
+
+// What every file is written as. Raise it when a record changes, with a named threshold here and tests of both sides.
+inline constexpr std::int32_t kArchiveVersion = 194;
+
+} // namespace Vorn

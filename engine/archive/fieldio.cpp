@@ -1,0 +1,38 @@
+#include "engine/archive/fieldio.h"
+
+#include "engine/archive/record.h"
+
+namespace Vorn {
+
+namespace {
+using EnumText = FixedString<256>;
+}
+
+void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& table) {
+    EnumText text;
+    if (reading) {
+        String(label, text);
+        value = EnumFromText(text.View(), table);
+        return;
+    }
+    const std::u16string_view row = EnumToText(value, table);
+    CheckAssert(row.data() != nullptr, "s != NULL");
+    text.Assign(row);
+    String(label, text);
+}
+
+void FieldIo::Block(class Record& block) {
+    block.Fields(*this);
+}
+
+std::int32_t FieldIo::ReadCount(Label label, std::int32_t start) {
+    auto count = static_cast<std::uint32_t>(start);
+    archive.Read(label, count);
+    return static_cast<std::int32_t>(count);
+}
+
+void FieldIo::WriteCount(Label label, std::int32_t count) {
+    archive.Write(label, static_cast<std::uint32_t>(count));
+}
+
+} // namespace Vorn

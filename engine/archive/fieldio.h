@@ -1,0 +1,110 @@
+#pragma once
+
+#include "engine/archive/archivable.h"
+#include "engine/archive/enumtable.h"
+#include "engine/datastructures/dynamicvector.h"
+#include "engine/string/fixedstring.h"
+
+namespace Vorn {
+
+class Record;
+
+// What a record's list of fields runs against: one call a field, which reads or writes it by the direction. The calls
+// are named after the kinds and never chosen by the type of the member, so that a changed member cannot change a file.
+class FieldIo {
+public:
+    enum class Direction : bool { Read, Write };
+
+    FieldIo(Archive& _archive, Direction direction) : archive(_archive), reading(direction == Direction::Read) {}
+    FieldIo(const FieldIo&) = delete;
+    FieldIo& operator=(const FieldIo&) = delete;
+
+    bool Reading() const { return reading; }
+    bool Writing() const { return !reading; }
+
+    // Whether the fields that came with version `threshold` are there: always in what is written, and in files of that
+    // version or later.
+    bool Since(std::int32_t threshold) const { return !reading || archive.GetVersion() >= threshold; }
+    // Whether a file older than version `threshold` is read; a file without a version is older than all.
+    bool Before(std::int32_t threshold) const { return !Since(threshold); }
+
+    void Color(Label label, Color& value) { Transfer(label, value); }
+    void Rectangle(Label label, Rectangle& value) { Transfer(label, value); }
+    void Size(Label label, Size& value) { Transfer(label, value); }
+    void Point(Label label, Point& value) { Transfer(label, value); }
+    void Quad(Label label, Quad& value) { Transfer(label, value); }
+    void Matrix44(Label label, Matrix44& value) { Transfer(label, value); }
+    void Matrix33(Label label, Matrix33& value) { Transfer(label, value); }
+    void Vector3(Label label, Vector3& value) { Transfer(label, value); }
+    void Int64(Label label, std::int64_t& value) { Transfer(label, value); }
+    void Bool(Label label, Bool& value) { Transfer(label, value); }
+    void Double(Label label, double& value) { Transfer(label, value); }
+    void Float(Label label, float& value) { Transfer(label, value); }
+    void Int(Label label, std::int32_t& value) { Transfer(label, value); }
+    void Uint(Label label, std::uint32_t& value) { Transfer(label, value); }
+    void Value(Label label, SingleLineArchivable& value) { Transfer(label, value); }
+
+    // The capacity of the field is that of its member.
+    template <int N>
+    void String(Label label, FixedString<N>& text) {
+        if (reading) {
+            archive.Read(label, text.Buffer().m_Buffer, N);
+        } else {
+            archive.Write(label, text.Units(), N);
+        }
+    }
+
+    // A number in memory, its text in every file. A missing or unknown text gives -1, whatever the field held.
+    template <class E>
+    void Enum(Label label, E& value) {
+        static_assert(kEnumTable<E>.rowCount > 0, "the enumeration has no table");
+        auto number = static_cast<std::int32_t>(value);
+        EnumNumber(label, number, kEnumTable<E>);
+        value = static_cast<E>(number);
+    }
+    void EnumNumber(Label label, std::int32_t& value, const EnumTable& table);
+
+    // A nested group of fields under a label of its own.
+    void Record(Label label, Archivable& value) { Transfer(label, value); }
+
+    // A record whose fields stand at this level, without a label.
+    void Block(class Record& block);
+
+    // A list without a limit whose room is made at once from the count. `entry` transfers one element.
+    template <class T, class Entry>
+    void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry) {
+        if (reading) {
+            const std::int32_t count = ReadCount(countLabel);
+            if (count > list.Capacity()) {
+                list.Reserve(count);
+            }
+            for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
+                entry(list.Append());
+            }
+        } else {
+            WriteCount(countLabel, list.Size());
+            for (T& element : list) {
+                entry(element);
+            }
+        }
+    }
+
+private:
+    template <class T>
+    void Transfer(Label label, T& value) {
+        if (reading) {
+            archive.Read(label, value);
+        } else {
+            archive.Write(label, static_cast<const T&>(value));
+        }
+    }
+
+    // Counts are compared as signed numbers; a missing or negative one makes an empty list.
+    std::int32_t ReadCount(Label label, std::int32_t start = 0);
+    void WriteCount(Label label, std::int32_t count);
+
+    Archive& archive;
+    const bool reading;
+};
+
+} // namespace Vorn

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "engine/archive/filearchive.h"
+#include "engine/file/filesystem.h"
+
+namespace Vorn {
+
+// The one place where a file becomes an archive: it tells a file's form, skips or writes the header and handles the
+// version. A loader names only a path, so that text and binary files stand for each other everywhere.
+class FileArchiveSystem {
+public:
+    explicit FileArchiveSystem(FileSystem& _fileSystem) : fileSystem(_fileSystem) {}
+    FileArchiveSystem(const FileArchiveSystem&) = delete;
+    FileArchiveSystem& operator=(const FileArchiveSystem&) = delete;
+    virtual ~FileArchiveSystem();
+
+    // Null, after a report, for a file that is neither form. A file that cannot be opened ends the process abnormally.
+    FileArchive* OpenForRead(std::u16string_view fileName, bool hasFloatBits);
+
+    // Null, after a report, if the file cannot be opened.
+    FileArchive* OpenForWrite(std::u16string_view fileName, bool hasFloatBits, FileArchiveType type);
+
+    // Closes the file, destroys the archive and clears the pointer; does nothing on null.
+    void Close(FileArchive*& archive);
+
+    // Close for an archive that has no file.
+    void Destroy(FileArchive*& archive);
+
+    // Makes and counts the archive of a file that stands behind its header; null for an unknown type.
+    FileArchive* Create(File* file, FileArchiveType type, bool hasFloatBits);
+
+    std::int32_t GetFileArchiveCount() const { return fileArchiveCount; }
+
+private:
+    FileArchiveType DetectType(std::u16string_view fileName, bool& hasVersion);
+    bool DetectBinary(std::u16string_view fileName, bool& hasVersion);
+    bool DetectText(std::u16string_view fileName, bool& hasVersion);
+    static void SkipHeader(File& file, FileArchiveType type, bool hasVersion);
+    static void WriteHeader(File* file, FileArchiveType type);
+
+    FileSystem& fileSystem;
+    std::int32_t fileArchiveCount = 0;
+};
+
+} // namespace Vorn

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "engine/archive/filearchive.h"
+
+namespace Vorn {
+
+class Scanner;
+
+// The readable form: one line a field, label first, nested records indented. Reading is strictly sequential: each read
+// demands that the current line begins with its label. A label that does not match is reported and leaves its field at
+// the default, and the same line serves the next read; so a missing line costs one report, a stray one all behind it.
+class TextFileArchive final : public FileArchive {
+public:
+    // Units of a line, terminator included; longer lines come in pieces when read and are cut when written.
+    static constexpr int kLineCapacity = 1024;
+
+    using Archive::Read;
+    using Archive::Write;
+    using FileArchive::FileArchive;
+
+    void Read(Label label, Color& value) override;
+    void Read(Label label, Rectangle& value) override;
+    void Read(Label label, Size& value) override;
+    void Read(Label label, Point& value) override;
+    void Read(Label label, Quad& value) override;
+    void Read(Label label, Matrix44& value) override;
+    void Read(Label label, Matrix33& value) override;
+    void Read(Label label, Vector3& value) override;
+    void Read(Label label, char16_t* buffer, int bufferSize) override;
+    void Read(Label label, std::int64_t& value) override;
+    void Read(Label label, Bool& value) override;
+    void Read(Label label, double& value) override;
+    void Read(Label label, float& value) override;
+    void Read(Label label, std::int32_t& value) override;
+    void Read(Label label, std::uint32_t& value) override;
+    void Read(Label label, SingleLineArchivable& value) override;
+    void Read(Label label, Archivable& value, std::int32_t version) override;
+    void Read(Label label, Archivable& value) override;
+
+    void Write(Label label, const Color& value) override;
+    void Write(Label label, const Rectangle& value) override;
+    void Write(Label label, const Size& value) override;
+    void Write(Label label, const Point& value) override;
+    void Write(Label label, const Quad& value) override;
+    void Write(Label label, const Matrix44& value) override;
+    void Write(Label label, const Matrix33& value) override;
+    void Write(Label label, const Vector3& value) override;
+    void Write(Label label, const char16_t* text, int bufferSize) override;
+    void Write(Label label, const std::int64_t& value) override;
+    void Write(Label label, const Bool& value) override;
+    void Write(Label label, const double& value) override;
+    void Write(Label label, const float& value) override;
+    void Write(Label label, const std::int32_t& value) override;
+    void Write(Label label, const std::uint32_t& value) override;
+    void Write(Label label, const SingleLineArchivable& value) override;
+    void Write(Label label, const Archivable& value) override;
+
+private:
+    class Line;
+
+    void TakeLine();
+    const char16_t* FindLabel(Label label);
+    void ReportMissingLabel(Label label) const;
+    void ReportMissingQuote(Label label) const;
+    template <int N>
+    void ReadFloats(const char16_t* text, float* const (&values)[N]);
+    template <int N>
+    void ReadRows(Label label, float (&rows)[N][N]);
+    template <int N>
+    void WriteRows(Label label, const float (&rows)[N][N]);
+    template <class... Floats>
+    void PutFloats(Line& line, Floats... values) const;
+    void Put(const Line& line);
+
+    std::int32_t m_TabDepth = 0;
+    FixedString<kLineCapacity> currentLine;
+    std::int32_t lineNumber = 0;
+    bool m_CurrentLineUnread = false;
+};
+
+} // namespace Vorn

@@ -1,0 +1,30 @@
+#include "engine/core/abnormalend.h"
+
+#include <cstdlib>
+
+namespace Vorn {
+
+namespace {
+constinit EndGuard* g_EndGuards = nullptr;
+}
+
+EndGuard::EndGuard() : next(g_EndGuards) {
+    g_EndGuards = this;
+}
+
+EndGuard::~EndGuard() {
+    EndGuard** link = &g_EndGuards;
+    while (*link != this) {
+        link = &(*link)->next;
+    }
+    *link = next;
+}
+
+void EndAbnormally() {
+    for (EndGuard* guard = g_EndGuards; guard != nullptr; guard = guard->next) {
+        guard->BeforeAbnormalEnd();
+    }
+    std::abort();
+}
+
+} // namespace Vorn

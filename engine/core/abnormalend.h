@@ -1,0 +1,32 @@
+#pragma once
+
+namespace Vorn {
+
+// The one way in which the process ends by a fault: what was written reaches its file, then the process aborts, with no
+// unwinding and no text of its own.
+[[noreturn]] void EndAbnormally();
+
+// Something that has to be brought to safety before the process ends abnormally. Lives in a list while it exists.
+class EndGuard {
+public:
+    EndGuard();
+    EndGuard(const EndGuard&) = delete;
+    EndGuard& operator=(const EndGuard&) = delete;
+
+    // Must not allocate: the end may come from memory running out.
+    virtual void BeforeAbnormalEnd() = 0;
+
+protected:
+    ~EndGuard();
+
+private:
+    friend void EndAbnormally();
+
+    EndGuard* next;
+};
+
+// The largest storage of one list in bytes. A count from a file that asks for more ends the process, so that the same
+// file ends the same way on every machine.
+inline constexpr unsigned long long kMaxListBytes = 2147483647;
+
+} // namespace Vorn

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "engine/core/report.h"
+#include "engine/string/format.h"
+
+namespace Vorn {
+
+class File;
+
+// Units of a report's text, terminator included; a longer text is cut.
+inline constexpr int kReportCapacity = 4096;
+
+// Takes over all reports when set: file and line of the place ("" and -1 for a report without one), the text, and
+// whether it is a failure rather than a logged line.
+class ReportHandler {
+public:
+    virtual ~ReportHandler() = default;
+    virtual void Handle(const char* file, int line, std::u16string_view text, bool isFailure) = 0;
+};
+
+// Shows a message to the user and returns the answer; 1 means "no further dialogs for failed checks".
+class MessageHandler {
+public:
+    virtual ~MessageHandler() = default;
+    virtual int Show(std::u16string_view title, std::u16string_view text) = 0;
+};
+
+// Where reports go. The converter runs with none of it set, so that every report ends on the debug output alone.
+struct Reporting {
+    ReportHandler* reportHandler = nullptr;
+    MessageHandler* messageHandler = nullptr;
+    File* logFile = nullptr;
+    bool suppressAssertDialogs = false;
+    bool debugChecksOff = false;
+};
+
+extern Reporting g_Reporting;
+
+// A format that remembers where it was written.
+struct FormatAt {
+    FormatAt(const char16_t* _format, SourcePosition _position = SourcePosition::Here())
+        : format(_format), position(_position) {}
+
+    const char16_t* format;
+    SourcePosition position;
+};
+
+void ReportErrorList(const char16_t* format, std::initializer_list<FormatArgument> arguments);
+void ReportErrorAtList(const FormatAt& format, std::initializer_list<FormatArgument> arguments);
+void LogLineList(const FormatAt& format, std::initializer_list<FormatArgument> arguments);
+
+// The report of a failed operation.
+template <class... Arguments>
+void ReportError(const char16_t* format, const Arguments&... arguments) {
+    ReportErrorList(format, {FormatArgument(arguments)...});
+}
+
+// The same from a known place, which is not shown. The finished text counts as a format once more, so that "%%" in an
+// argument comes out as "%".
+template <class... Arguments>
+void ReportErrorAt(const FormatAt& format, const Arguments&... arguments) {
+    ReportErrorAtList(format, {FormatArgument(arguments)...});
+}
+
+// A line for the log.
+template <class... Arguments>
+void LogLine(const FormatAt& format, const Arguments&... arguments) {
+    LogLineList(format, {FormatArgument(arguments)...});
+}
+
+} // namespace Vorn

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "engine/core/abnormalend.h"
+
+#include <cstddef>
+#include <cstdlib>
+
+namespace Vorn {
+
+// Raw memory for `count` elements of a list. More than kMaxListBytes, or more than the machine has, ends the process
+// abnormally.
+template <class T>
+T* AllocateElements(long long count) {
+    static_assert(alignof(T) <= alignof(std::max_align_t));
+    const auto bytes = static_cast<unsigned long long>(count) * sizeof(T);
+    if (count < 0 || bytes > kMaxListBytes) {
+        EndAbnormally();
+    }
+    void* memory = std::malloc(bytes != 0 ? bytes : 1);
+    if (memory == nullptr) {
+        EndAbnormally();
+    }
+    return static_cast<T*>(memory);
+}
+
+} // namespace Vorn

@@ -1,0 +1,48 @@
+#include "engine/file/filesystem.h"
+
+#include "engine/core/reporting.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+FileSystem::~FileSystem() {
+    for (File* file : openFiles) {
+        delete file;
+    }
+}
+
+File* FileSystem::Open(std::u16string_view name, FileAccess access, FileTranslation translation) {
+    CheckAssert(access == FileAccess::Read || access == FileAccess::Write, "false");
+    CheckAssert(translation == FileTranslation::Text || translation == FileTranslation::Binary, "false");
+    File* file = new File(access, translation);
+    if (!file->Open(name)) {
+        ReportError(u"Failed to Open File: '%s'\n", name);
+        delete file;
+        return nullptr;
+    }
+    openFiles.Append(file);
+    return file;
+}
+
+void FileSystem::Close(File* file) {
+    if (file == nullptr) {
+        EndAbnormally();
+    }
+    const bool flushed = file->Flush();
+    CheckAssert(file->stream.Close() && flushed, "closeResult == 0");
+    openFiles.RemoveAt(static_cast<int>(std::find(openFiles.begin(), openFiles.end(), file) - openFiles.begin()));
+    delete file;
+}
+
+bool FileSystem::Exists(std::u16string_view name) {
+    return IsExistingFile(name);
+}
+
+void FileSystem::BeforeAbnormalEnd() {
+    for (File* file : openFiles) {
+        file->Flush();
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "engine/file/filebuffer.h"
+
+#include <optional>
+
+namespace Vorn {
+
+// What ReadLine found: nothing at the end of the file, a line with its line feed, or a line without.
+enum class LineKind { None, Whole, Open };
+
+// Reads a text file line by line as 16-bit code units. A byte-order mark at the start picks UTF-8 or UTF-16, else it is
+// UTF-8; CR LF comes as one line feed. Malformed input never fails: each malformed part reads as U+FFFD.
+class LineReader {
+public:
+    explicit LineReader(ReadBuffer& _input) : input(_input) {}
+
+    // Reads up to and with the next line feed, at most capacity - 1 units, and terminates. At the end of the file the
+    // line keeps its content. A line with U+0000 in it ends there as far as anybody can see, and counts as open.
+    LineKind ReadLine(char16_t* line, int capacity);
+
+private:
+    enum class Encoding { Unknown, Utf8, Utf16Little, Utf16Big };
+
+    void DetectEncoding();
+    bool ReadPlainLine(char16_t* line, std::size_t capacity);
+    std::optional<char16_t> NextUnit();
+    std::optional<char16_t> DecodeUnit();
+    std::optional<char16_t> DecodeUtf8Unit();
+    std::optional<char16_t> DecodeUtf16Unit();
+
+    ReadBuffer& input;
+    Encoding encoding = Encoding::Unknown;
+    // The unit behind a carriage return that turned out not to belong to a line end.
+    std::optional<char16_t> heldBack;
+    std::optional<char16_t> lowSurrogate;
+};
+
+} // namespace Vorn

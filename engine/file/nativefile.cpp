@@ -1,0 +1,142 @@
+#include "engine/file/nativefile.h"
+
+#include "engine/string/utf8.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace Vorn {
+
+namespace {
+
+constexpr std::size_t kMaxTransfer = std::size_t{1} << 30;
+
+#ifdef _WIN32
+
+int OpenDescriptor(std::u16string_view name, FileAccess access) {
+    const std::wstring path(name.begin(), name.end());
+    const int flags = access == FileAccess::Read ? _O_RDONLY : _O_WRONLY | _O_CREAT | _O_TRUNC;
+    return _wopen(path.c_str(), flags | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+}
+
+std::ptrdiff_t ReadSome(int descriptor, void* bytes, std::size_t count) {
+    return _read(descriptor, bytes, static_cast<unsigned>(count));
+}
+
+std::ptrdiff_t WriteSome(int descriptor, const void* bytes, std::size_t count) {
+    return _write(descriptor, bytes, static_cast<unsigned>(count));
+}
+
+bool SeekTo(int descriptor, long long position) {
+    return _lseeki64(descriptor, position, SEEK_SET) >= 0;
+}
+
+bool IsDirectoryDescriptor(int) {
+    return false;
+}
+
+bool CloseDescriptor(int descriptor) {
+    return _close(descriptor) == 0;
+}
+
+#else
+
+int OpenDescriptor(std::u16string_view name, FileAccess access) {
+    const int flags = access == FileAccess::Read ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
+    return open(BytesFromName(name).c_str(), flags | O_CLOEXEC, 0666);
+}
+
+template <class Transfer>
+std::ptrdiff_t Uninterrupted(Transfer transfer) {
+    std::ptrdiff_t result = 0;
+    do {
+        result = transfer();
+    } while (result < 0 && errno == EINTR);
+    return result;
+}
+
+std::ptrdiff_t ReadSome(int descriptor, void* bytes, std::size_t count) {
+    return Uninterrupted([&] { return read(descriptor, bytes, count); });
+}
+
+std::ptrdiff_t WriteSome(int descriptor, const void* bytes, std::size_t count) {
+    return Uninterrupted([&] { return write(descriptor, bytes, count); });
+}
+
+bool SeekTo(int descriptor, long long position) {
+    return lseek(descriptor, position, SEEK_SET) >= 0;
+}
+
+bool IsDirectoryDescriptor(int descriptor) {
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool CloseDescriptor(int descriptor) {
+    return close(descriptor) == 0;
+}
+
+#endif
+
+} // namespace
+
+bool NativeFile::Open(std::u16string_view name, FileAccess access) {
+    Close();
+    descriptor = OpenDescriptor(name, access);
+    return descriptor != kNone;
+}
+
+bool NativeFile::IsDirectory() const {
+    return IsDirectoryDescriptor(descriptor);
+}
+
+bool NativeFile::Close() {
+    if (descriptor == kNone) {
+        return true;
+    }
+    const bool closed = CloseDescriptor(descriptor);
+    descriptor = kNone;
+    return closed;
+}
+
+std::ptrdiff_t NativeFile::Read(void* bytes, std::size_t count) {
+    return ReadSome(descriptor, bytes, std::min(count, kMaxTransfer));
+}
+
+bool NativeFile::Write(const void* bytes, std::size_t count) {
+    const char* cursor = static_cast<const char*>(bytes);
+    while (count > 0) {
+        const std::ptrdiff_t written = WriteSome(descriptor, cursor, std::min(count, kMaxTransfer));
+        if (written <= 0) {
+            return false;
+        }
+        cursor += written;
+        count -= static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+bool NativeFile::Seek(long long position) {
+    return SeekTo(descriptor, position);
+}
+
+bool IsExistingFile(std::u16string_view name) {
+#ifdef _WIN32
+    struct _stat64 status = {};
+    return _wstat64(std::wstring(name.begin(), name.end()).c_str(), &status) == 0 && (status.st_mode & _S_IFDIR) == 0;
+#else
+    struct stat status = {};
+    return stat(BytesFromName(name).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+#endif
+}
+
+} // namespace Vorn

@@ -1,0 +1,27 @@
+#include "engine/file/path.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+PathParts SplitPath(std::u16string_view path) {
+    PathParts parts;
+    if (path.size() >= 2 && path[1] == u':') {
+        parts.drive = path.substr(0, 2);
+        path.remove_prefix(2);
+    }
+    const std::size_t folderEnd = path.find_last_of(u"/\\") + 1;
+    parts.folder = path.substr(0, folderEnd);
+    path.remove_prefix(folderEnd);
+    const std::size_t dot = std::min(path.rfind(u'.'), path.size());
+    parts.stem = path.substr(0, dot);
+    parts.extension = path.substr(dot);
+    return parts;
+}
+
+std::u16string_view FileNameOf(std::u16string_view path) {
+    const PathParts parts = SplitPath(path);
+    return path.substr(parts.drive.size() + parts.folder.size());
+}
+
+} // namespace Vorn

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+
+namespace Vorn {
+
+// The parts of a path, on every platform: both slashes part folders, a single letter with a colon in front is a drive,
+// and the extension begins at the last dot of the rest. The parts together are the path again.
+struct PathParts {
+    std::u16string_view drive;
+    std::u16string_view folder;
+    std::u16string_view stem;
+    std::u16string_view extension;
+};
+
+PathParts SplitPath(std::u16string_view path);
+
+// What stands behind drive and folders.
+std::u16string_view FileNameOf(std::u16string_view path);
+
+} // namespace Vorn

@@ -1,0 +1,36 @@
+#include "engine/render/texture/texturesystem.h"
+
+namespace Vorn {
+
+FileTexture* TextureSystem::Acquire(std::u16string_view fileName) {
+    if (firstFree == nullptr) {
+        AddBlock();
+    }
+    FileTexture* texture = firstFree;
+    firstFree = texture->nextFree;
+    texture->name.Assign(fileName);
+    texture->fileName.Assign(fileName);
+    ++textureCount;
+    return texture;
+}
+
+void TextureSystem::Release(FileTexture* texture) {
+    if (texture != nullptr) {
+        texture->nextFree = firstFree;
+        firstFree = texture;
+        --textureCount;
+    }
+}
+
+// Textures come in blocks, so that reading a state of a brush allocates nothing.
+void TextureSystem::AddBlock() {
+    constexpr int kBlockSize = 32;
+    blocks.push_back(std::make_unique_for_overwrite<FileTexture[]>(kBlockSize));
+    for (int i = 0; i < kBlockSize; ++i) {
+        FileTexture& texture = blocks.back()[i];
+        texture.nextFree = firstFree;
+        firstFree = &texture;
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,124 @@
+#include "engine/string/format.h"
+
+#include "engine/string/numbertext.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+// Walks a format once and fills the destination; what does not fit is dropped and remembered.
+class Formatter {
+public:
+    Formatter(StringBuffer destination, std::initializer_list<FormatArgument> arguments)
+        : cursor(destination.m_Buffer), limit(destination.m_Buffer + destination.m_BufferSize - 1),
+          next(arguments.begin()), end(arguments.end()) {}
+
+    void Run(std::u16string_view format) {
+        while (!format.empty()) {
+            const std::size_t literal = std::min(format.find(u'%'), format.size());
+            Put(format.substr(0, literal));
+            format.remove_prefix(literal);
+            if (!format.empty()) {
+                format.remove_prefix(Convert(format));
+            }
+        }
+        *cursor = u'\0';
+        CheckAssert(!cut, "! FAILED( hr )");
+    }
+
+private:
+    using Kind = FormatArgument::Kind;
+
+    struct Conversion {
+        std::u16string_view text;
+        Kind kind;
+    };
+
+    // Puts the conversion at the start of `format` and returns how many units it takes there.
+    std::size_t Convert(std::u16string_view format) {
+        if (format.starts_with(u"%%")) {
+            Put(u"%");
+            return 2;
+        }
+        if (format.starts_with(u"%-*s") && end - next >= 2 && next->kind == Kind::Integer) {
+            PutField(static_cast<int>(next->integer), *(next + 1));
+            next += 2;
+            return 4;
+        }
+        static constexpr Conversion kConversions[] = {
+            {u"%s", Kind::Text},       {u"%d", Kind::Integer}, {u"%x", Kind::Integer},  {u"%lld", Kind::Integer},
+            {u"%I64d", Kind::Integer}, {u"%f", Kind::Float},   {u"%.2f", Kind::Float}, {u"%p", Kind::Pointer}};
+        for (const Conversion& conversion : kConversions) {
+            if (format.starts_with(conversion.text) && Matches(conversion.kind)) {
+                PutArgument(conversion.text, *next++);
+                return conversion.text.size();
+            }
+        }
+        Put(u"%");
+        return 1;
+    }
+
+    bool Matches(Kind kind) const {
+        return next != end && (next->kind == kind || (kind == Kind::Text && next->kind == Kind::Narrow));
+    }
+
+    void PutArgument(std::u16string_view conversion, const FormatArgument& argument) {
+        char16_t digits[kNumberTextCapacity];
+        char16_t* digitsEnd = digits;
+        switch (argument.kind) {
+        case Kind::Text:
+            Put(argument.text);
+            return;
+        case Kind::Narrow:
+            PutNarrow(argument.narrow);
+            return;
+        case Kind::Integer:
+            digitsEnd = conversion == u"%x"   ? PutHex(digits, static_cast<std::uint32_t>(argument.integer))
+                        : conversion == u"%d" ? PutInt(digits, static_cast<std::int32_t>(argument.integer))
+                                              : PutInt64(digits, argument.integer);
+            break;
+        case Kind::Float:
+            digitsEnd = conversion == u"%f" ? PutFixed(digits, argument.real, 6) : PutFixed(digits, argument.real, 2);
+            break;
+        case Kind::Pointer:
+            Put(u"0x");
+            digitsEnd = PutHex64(digits, reinterpret_cast<std::uintptr_t>(argument.pointer));
+            break;
+        }
+        Put({digits, static_cast<std::size_t>(digitsEnd - digits)});
+    }
+
+    // Left-aligned text, filled with blanks up to `width` units.
+    void PutField(int width, const FormatArgument& argument) {
+        const char16_t* start = cursor;
+        PutArgument(u"%s", argument);
+        for (std::ptrdiff_t units = cursor - start; units < width; ++units) {
+            Put(u" ");
+        }
+    }
+
+    void PutNarrow(const char* text) {
+        for (; *text != '\0'; ++text) {
+            const auto unit = static_cast<char16_t>(static_cast<unsigned char>(*text));
+            Put({&unit, 1});
+        }
+    }
+
+    void Put(std::u16string_view text) {
+        const std::size_t count = std::min(text.size(), static_cast<std::size_t>(limit - cursor));
+        cursor = std::copy_n(text.data(), count, cursor);
+        cut = cut || count < text.size();
+    }
+
+    char16_t* cursor;
+    char16_t* limit;
+    const FormatArgument* next;
+    const FormatArgument* end;
+    bool cut = false;
+};
+
+void FormatList(StringBuffer destination, const char16_t* format, std::initializer_list<FormatArgument> arguments) {
+    Formatter(destination, arguments).Run(format);
+}
+
+} // namespace Vorn

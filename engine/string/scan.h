@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+
+namespace Vorn {
+
+// The white space of content files: U+0009 to U+000D and the blank, whatever the locale.
+constexpr bool IsWhiteSpace(char16_t unit) {
+    return unit == u' ' || (unit >= u'\t' && unit <= u'\r');
+}
+
+inline const char16_t* SkipWhiteSpace(const char16_t* text) {
+    while (IsWhiteSpace(*text)) {
+        ++text;
+    }
+    return text;
+}
+
+// Scans a terminated text step by step after a form. The first step that does not fit ends the scan: it and all later
+// steps store nothing. `Stored` counts the numbers stored, as a formatted scan does.
+//
+// Integers are decimal, taken modulo their width; what follows the digits is left for the next step. Floats are the
+// longest prefix of digits, point and complete exponent, or inf, infinity, nan in any case, rounded once to nearest
+// even; overflow stores an infinity. No hexadecimal floats, no locale.
+class Scanner {
+public:
+    explicit Scanner(const char16_t* text) : cursor(text) {}
+
+    // Any run of white space, also none.
+    Scanner& Blank() {
+        cursor = SkipWhiteSpace(cursor);
+        return *this;
+    }
+
+    // Exactly this unit, right here.
+    Scanner& Literal(char16_t unit) {
+        if (*cursor == unit) {
+            ++cursor;
+        } else {
+            Fail();
+        }
+        return *this;
+    }
+
+    Scanner& Int(std::int32_t& value) { return Store(ScanInt(value)); }
+    Scanner& Int64(std::int64_t& value) { return Store(ScanInt64(value)); }
+    Scanner& Hex(std::uint32_t& value) { return Store(ScanHex(value)); }
+    Scanner& Float(float& value) { return Store(ScanFloat(value)); }
+    Scanner& Double(double& value) { return Store(ScanDouble(value)); }
+
+    int Stored() const { return stored; }
+
+private:
+    bool ScanInt(std::int32_t& value);
+    bool ScanInt64(std::int64_t& value);
+    bool ScanHex(std::uint32_t& value);
+    bool ScanFloat(float& value);
+    bool ScanDouble(double& value);
+
+    // An empty text fits no further step but a blank.
+    void Fail() { cursor = u""; }
+
+    Scanner& Store(bool scanned) {
+        if (scanned) {
+            ++stored;
+        } else {
+            Fail();
+        }
+        return *this;
+    }
+
+    const char16_t* cursor;
+    int stored = 0;
+};
+
+} // namespace Vorn

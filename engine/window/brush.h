@@ -1,0 +1,90 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "engine/datastructures/fixedarray.h"
+#include "engine/render/texture/texturesystem.h"
+
+namespace Vorn {
+
+// What a brush record holds: margins, five states, both, or only the one state that all share.
+enum class ArchiveContent : std::int32_t { Invalid = -1, Simple, MarginsAndStates, Margins, States };
+
+inline constexpr std::u16string_view kArchiveContentRows[] = {u"Simple", u"MarginsAndStates", u"Margins", u"States"};
+template <>
+inline constexpr EnumTable kEnumTable<ArchiveContent> =
+    MakeTable<ArchiveContent::States>("ArchiveContent", kArchiveContentRows);
+
+// A named picture for the interface: pixels on a texture for each state of a control, with margins in pixels. Writing
+// derives the content from the data, so that a brush that said more than it needs comes out in its shortest form.
+class Brush : public Record {
+public:
+    static constexpr int kStateCount = 5;
+
+    // In the order left, right, top, bottom, unlike a Rectangle.
+    struct Margins : Record {
+        std::uint32_t left = 0;
+        std::uint32_t right = 0;
+        std::uint32_t top = 0;
+        std::uint32_t bottom = 0;
+
+        void Fields(FieldIo& io) override;
+        bool IsZero() const { return (left | right | top | bottom) == 0; }
+    };
+
+    // One corner of a quad in texture coordinates; without an image these are infinite or not numbers.
+    struct Corner {
+        float u;
+        float v;
+    };
+    struct TextureQuad {
+        Corner corners[4];
+    };
+
+    // The texture is given back by BrushSet::ReleaseTextures, not by the destructor.
+    class StateInfo : public Record {
+    public:
+        static constexpr int kQuadCount = 10;
+
+        StateInfo();
+        // A copy acquires a texture of its own under the same file name.
+        StateInfo(const StateInfo& other);
+        StateInfo& operator=(const StateInfo& other);
+
+        void Fields(FieldIo& io) override;
+
+        // Fills the quads from box and margins: top left, left, bottom left, top right, right, bottom right, top,
+        // bottom, centre, whole box. Does nothing without a texture.
+        void ComputeTextureCoordinates(const Margins& stretchMargins);
+
+        // Same box and same texture, where textures that only have names are the same by name, case included.
+        bool IsLike(const StateInfo& other) const;
+
+        const TextureQuad& GetTextureQuad(int i) const { return textureQuads[i]; }
+        void ReleaseTexture();
+
+    private:
+        bool HasTextureOf(const StateInfo& other) const;
+
+        FileTexture* texture = nullptr;
+        struct Rectangle pixelBox = {-1, -1, -1, -1};
+        FixedArray<TextureQuad, kQuadCount> textureQuads;
+    };
+
+    void Fields(FieldIo& io) override;
+
+    const FixedString<128>& GetName() const { return name; }
+    StateInfo& GetState(int i) { return states[i]; }
+    void ReleaseTextures();
+
+private:
+    ArchiveContent ContentFromData() const;
+    bool StatesDiffer() const;
+    void ShareFirstState();
+
+    FixedString<128> name;
+    FixedArray<StateInfo, kStateCount> states;
+    Margins stretchMargins;
+    Margins contentMargins;
+};
+
+} // namespace Vorn

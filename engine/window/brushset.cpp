@@ -1,0 +1,28 @@
+#include "engine/window/brushset.h"
+
+#include "engine/archive/filearchivesystem.h"
+
+namespace Vorn {
+
+void BrushSet::Load(FileArchiveSystem& archives) {
+    FileArchive* archive = archives.OpenForRead(name.View(), false);
+    if (archive != nullptr) {
+        FieldIo io(*archive, FieldIo::Direction::Read);
+        Fields(io);
+        archives.Close(archive);
+    }
+}
+
+void BrushSet::Fields(FieldIo& io) {
+    io.Bool(u"onlyLoadOnDemand", onlyLoadOnDemand);
+    io.ReservedList(u"brushCount", brushes, [&](Brush& brush) { io.Record(u"brush", brush); });
+}
+
+void BrushSet::ReleaseTextures() {
+    for (Brush& brush : brushes) {
+        brush.ReleaseTextures();
+    }
+    brushes.Clear();
+}
+
+} // namespace Vorn

@@ -1,0 +1,94 @@
+#include "tools/kelvane/kelvane.h"
+
+#include "engine/core/core.h"
+#include "engine/string/utf8.h"
+#include "engine/window/brushset.h"
+#include "tools/kelvane/savegame.h"
+
+namespace Vorn {
+
+namespace {
+
+constexpr std::size_t kLeastArguments = 3;
+constexpr int kTextureDirectory = 5;
+
+struct Conversion {
+    std::u16string_view source;
+    std::u16string_view destination;
+    FileArchiveType form;
+};
+
+// Runs `write` on the destination's archive if it opens.
+template <class Write>
+void WriteDestination(Core& core, const Conversion& conversion, Write write) {
+    FileArchiveSystem& archives = core.fileArchiveSystem;
+    if (FileArchive* archive = archives.OpenForWrite(conversion.destination, false, conversion.form)) {
+        write(*archive);
+        archives.Close(archive);
+    }
+}
+
+void ConvertBrushes(Core& core, const Conversion& conversion) {
+    BrushSet brushSet(conversion.source);
+    brushSet.Load(core.fileArchiveSystem);
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        FieldIo io(archive, FieldIo::Direction::Write);
+        brushSet.Fields(io);
+    });
+    brushSet.ReleaseTextures();
+}
+
+void ConvertSaveGame(Core&, const Conversion& conversion) {
+    StampSaveGame(conversion.source, conversion.destination);
+}
+
+struct ContentType {
+    std::u16string_view name;
+    void (*convert)(Core& core, const Conversion& conversion);
+};
+
+constexpr ContentType kContentTypes[] = {
+    {u"brushes", ConvertBrushes},
+    {u"saveGame", ConvertSaveGame},
+};
+
+void PrintUsage(std::FILE* output) {
+    std::fputs("Usage: kelvane type src dest [format]\n"
+               "\t-type can be mesh, particle, brushes, entity,saveGame\n"
+               "\t-format can be txt, bin. defaults to bin and bin only for saveGame\n",
+               output);
+}
+
+void PrintUnknownType(const std::u16string& type, std::FILE* output) {
+#ifdef _WIN32
+    std::fprintf(output, "%p is an unknown convert type", static_cast<const void*>(type.c_str()));
+#else
+    const std::string bytes = BytesFromName(type);
+    std::fwrite(bytes.data(), 1, bytes.size(), output);
+    std::fputs(" is an unknown convert type", output);
+#endif
+}
+
+} // namespace
+
+int RunKelvane(std::span<const std::u16string> arguments, std::FILE* output) {
+    Core core;
+    core.textureSystem.SetFolder(core.GetDirectory(kTextureDirectory));
+    core.textureSystem.SetNameOnlyTextures(true);
+    if (arguments.size() < kLeastArguments) {
+        PrintUsage(output);
+        return kUsageError;
+    }
+    const bool isText = arguments.size() > kLeastArguments && arguments[3] == u"txt";
+    const Conversion conversion = {arguments[1], arguments[2], isText ? FileArchiveType::Text : FileArchiveType::Binary};
+    for (const ContentType& type : kContentTypes) {
+        if (type.name == arguments[0]) {
+            type.convert(core, conversion);
+            return kSuccess;
+        }
+    }
+    PrintUnknownType(arguments[0], output);
+    return kUsageError;
+}
+
+} // namespace Vorn

@@ -1,6 +1,7 @@
 #include "engine/archive/fieldio.h"
 
 #include "engine/archive/record.h"
+#include "engine/core/reporting.h"
 
 namespace Vorn {
 
@@ -23,6 +24,12 @@ void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& tabl
 
 void FieldIo::Block(class Record& block) {
     block.Fields(*this);
+}
+
+void FieldIo::ReportTooMany(Label countLabel, std::int32_t count, std::int32_t allowed) {
+    ReportError(u"%s exceeds the maximum allowed. %d requested but only %d allowed. If a larger number is needed bug a "
+                u"programmer!\n",
+                countLabel, count, allowed);
 }
 
 std::int32_t FieldIo::ReadCount(Label label, std::int32_t start) {

@@ -3,6 +3,7 @@
 #include "engine/archive/archivable.h"
 #include "engine/archive/enumtable.h"
 #include "engine/datastructures/dynamicvector.h"
+#include "engine/datastructures/fixedvector.h"
 #include "engine/string/fixedstring.h"
 
 namespace Vorn {
@@ -70,22 +71,70 @@ public:
     // A record whose fields stand at this level, without a label.
     void Block(class Record& block);
 
-    // A list without a limit whose room is made at once from the count. `entry` transfers one element.
+    // Lists are a count under `countLabel` and then the elements, each transferred by `entry`. A missing count, 0 and
+    // every negative number make an empty list; reading replaces what the list held. The verbs differ in what they do
+    // with a count that is too large.
+
+    // Keeps as many elements as the list has room for. The surplus is reported once, ahead of the elements, and is
+    // read and dropped, so that the fields behind it line up.
+    template <class T, int N, class Entry>
+    void BoundedList(Label countLabel, FixedVector<T, N>& list, Entry entry) {
+        if (reading) {
+            const std::int32_t count = ReadCount(countLabel);
+            if (count > N) {
+                ReportTooMany(countLabel, count, N);
+            }
+            ReadLimited(count, list, entry, [] {});
+        } else {
+            WriteList(countLabel, list, entry);
+        }
+    }
+
+    // Like BoundedList, but each surplus element only fires the vector's own check before it is read and dropped.
+    template <class T, int N, class Entry>
+    void CappedList(Label countLabel, FixedVector<T, N>& list, Entry entry) {
+        if (reading) {
+            ReadLimited(ReadCount(countLabel), list, entry, [] { CheckAssert(false, "m_CurrentSize < MAX_SIZE"); });
+        } else {
+            WriteList(countLabel, list, entry);
+        }
+    }
+
+    // Grows entry by entry, whatever the count says.
+    template <class T, class Entry>
+    void GrowingList(Label countLabel, DynamicVector<T>& list, Entry entry) {
+        if (reading) {
+            list.Clear();
+            ReadEntries(ReadCount(countLabel), [&](std::int32_t) { entry(list.Append()); });
+        } else {
+            WriteList(countLabel, list, entry);
+        }
+    }
+
+    // A growing list whose room is made at once from the count. Room beyond kMaxListBytes ends the process.
     template <class T, class Entry>
     void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry) {
         if (reading) {
+            list.Clear();
             const std::int32_t count = ReadCount(countLabel);
             if (count > list.Capacity()) {
                 list.Reserve(count);
             }
-            for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
-                entry(list.Append());
-            }
+            ReadEntries(count, [&](std::int32_t) { entry(list.Append()); });
         } else {
-            WriteCount(countLabel, list.Size());
-            for (T& element : list) {
-                entry(element);
-            }
+            WriteList(countLabel, list, entry);
+        }
+    }
+
+    // Reads the count of a list that has rules of its own.
+    std::int32_t ReadCount(Label label, std::int32_t start = 0);
+    void WriteCount(Label label, std::int32_t count);
+
+    // Calls `entry` with 0 to count - 1, and stops early once the archive is exhausted.
+    template <class Entry>
+    void ReadEntries(std::int32_t count, Entry entry) {
+        for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
+            entry(i);
         }
     }
 
@@ -99,9 +148,28 @@ private:
         }
     }
 
-    // Counts are compared as signed numbers; a missing or negative one makes an empty list.
-    std::int32_t ReadCount(Label label, std::int32_t start = 0);
-    void WriteCount(Label label, std::int32_t count);
+    template <class T, int N, class Entry, class OnSurplus>
+    void ReadLimited(std::int32_t count, FixedVector<T, N>& list, Entry entry, OnSurplus onSurplus) {
+        list.Clear();
+        ReadEntries(count, [&](std::int32_t i) {
+            if (i < N) {
+                entry(list.Append());
+            } else {
+                onSurplus();
+                entry(ScratchElement<T>());
+            }
+        });
+    }
+
+    template <class List, class Entry>
+    void WriteList(Label countLabel, List& list, Entry entry) {
+        WriteCount(countLabel, list.Size());
+        for (auto& element : list) {
+            entry(element);
+        }
+    }
+
+    static void ReportTooMany(Label countLabel, std::int32_t count, std::int32_t allowed);
 
     Archive& archive;
     const bool reading;

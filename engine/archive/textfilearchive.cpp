@@ -12,8 +12,15 @@ namespace Vorn {
 
 namespace {
 
-constexpr const char* kResultChecks[] = {"",            "result == 1", "result == 2", "result == 3", "result == 4",
-                                         "result == 5", "result == 6", "result == 7", "result == 8"};
+constexpr const char* kResultChecks[] = {"",
+                                         "result == 1",
+                                         "result == 2",
+                                         "result == 3",
+                                         "result == 4",
+                                         "result == 5",
+                                         "result == 6",
+                                         "result == 7",
+                                         "result == 8"};
 
 void CheckResult(const Scanner& scanner, int expected) {
     CheckAssert(scanner.Stored() == expected, kResultChecks[expected]);

@@ -71,7 +71,9 @@ void File::PrintLine(int indentation, std::u16string_view text) {
     constexpr int kTabs = 16;
     bool written = true;
     for (; indentation > 0; indentation -= kTabs) {
-        written = PutText({u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t", static_cast<std::size_t>(std::min(indentation, kTabs))}) && written;
+        written =
+            PutText({u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t", static_cast<std::size_t>(std::min(indentation, kTabs))}) &&
+            written;
     }
     written = PutText(text) && written;
     CheckAssert(output && output->Put("\r\n", 2) && written, "result >= 0");

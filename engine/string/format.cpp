@@ -46,7 +46,7 @@ private:
             return 4;
         }
         static constexpr Conversion kConversions[] = {
-            {u"%s", Kind::Text},       {u"%d", Kind::Integer}, {u"%x", Kind::Integer},  {u"%lld", Kind::Integer},
+            {u"%s", Kind::Text},       {u"%d", Kind::Integer}, {u"%x", Kind::Integer}, {u"%lld", Kind::Integer},
             {u"%I64d", Kind::Integer}, {u"%f", Kind::Float},   {u"%.2f", Kind::Float}, {u"%p", Kind::Pointer}};
         for (const Conversion& conversion : kConversions) {
             if (format.starts_with(conversion.text) && Matches(conversion.kind)) {

@@ -155,7 +155,8 @@ template <class Real>
 Real ConvertText(const Decimal& decimal) {
     char text[kNumberLimit];
     const auto length = std::min(static_cast<std::size_t>(decimal.end - decimal.digits), sizeof text);
-    std::transform(decimal.digits, decimal.digits + length, text, [](char16_t unit) { return static_cast<char>(unit); });
+    std::transform(decimal.digits, decimal.digits + length, text,
+                   [](char16_t unit) { return static_cast<char>(unit); });
     Real value = 0;
     const std::from_chars_result result = std::from_chars(text, text + length, value);
     if (result.ec == std::errc::result_out_of_range) {

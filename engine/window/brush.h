@@ -11,8 +11,8 @@ enum class ArchiveContent : std::int32_t { Invalid = -1, Simple, MarginsAndState
 
 inline constexpr std::u16string_view kArchiveContentRows[] = {u"Simple", u"MarginsAndStates", u"Margins", u"States"};
 template <>
-inline constexpr EnumTable kEnumTable<ArchiveContent> =
-    MakeTable<ArchiveContent::States>("ArchiveContent", kArchiveContentRows);
+inline constexpr EnumTable kEnumTable<ArchiveContent> = MakeTable<ArchiveContent::States>("ArchiveContent",
+                                                                                          kArchiveContentRows);
 
 // A named picture for the interface: pixels on a texture for each state of a control, with margins in pixels. Writing
 // derives the content from the data, so that a brush that said more than it needs comes out in its shortest form.

@@ -80,7 +80,8 @@ int RunKelvane(std::span<const std::u16string> arguments, std::FILE* output) {
         return kUsageError;
     }
     const bool isText = arguments.size() > kLeastArguments && arguments[3] == u"txt";
-    const Conversion conversion = {arguments[1], arguments[2], isText ? FileArchiveType::Text : FileArchiveType::Binary};
+    const Conversion conversion = {arguments[1], arguments[2],
+                                   isText ? FileArchiveType::Text : FileArchiveType::Binary};
     for (const ContentType& type : kContentTypes) {
         if (type.name == arguments[0]) {
             type.convert(core, conversion);

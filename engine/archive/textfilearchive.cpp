@@ -2,6 +2,7 @@
 
 #include "engine/archive/checksum.h"
 #include "engine/core/reporting.h"
+#include "engine/string/ascii.h"
 #include "engine/string/numbertext.h"
 #include "engine/string/scan.h"
 
@@ -90,12 +91,16 @@ void TextFileArchive::Put(const Line& line) {
 
 // Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
 void TextFileArchive::TakeLine() {
-    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer());
+    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
     if (!isFresh) {
         CountIdleRead();
     }
     ++lineNumber;
     m_CurrentLineUnread = false;
+}
+
+std::u16string_view TextFileArchive::RestOfLine(const char16_t* text) const {
+    return {text, static_cast<std::size_t>(currentLine.Units() + currentLineLength - text)};
 }
 
 // The value behind the label of the next line, or null after a report.
@@ -233,23 +238,23 @@ void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view value(text);
-    const std::size_t opening = value.find(u'"');
+    const char16_t* end = currentLine.Units() + currentLineLength;
+    const char16_t* opening = FindUnit(text, end, u'"');
     buffer[0] = u'\0';
-    if (opening == std::u16string_view::npos) {
+    if (opening == end) {
         ReportMissingQuote(label);
         return;
     }
-    const std::u16string_view quoted = value.substr(opening + 1);
-    const std::size_t closing = quoted.find(u'"');
-    const int length = static_cast<int>(std::min(closing, quoted.size()));
+    const char16_t* quoted = opening + 1;
+    const char16_t* closing = FindUnit(quoted, end, u'"');
+    const int length = static_cast<int>(closing - quoted);
     for (int numCharsCopied = bufferSize; numCharsCopied <= length; ++numCharsCopied) {
         CheckAssert(numCharsCopied < bufferSize, "numCharsCopied < bufferSize");
     }
     const int kept = std::min(length, bufferSize - 1);
-    std::copy_n(quoted.data(), kept, buffer);
+    std::copy_n(quoted, kept, buffer);
     buffer[kept] = u'\0';
-    if (closing == std::u16string_view::npos) {
+    if (closing == end) {
         ReportMissingQuote(label);
     }
 }
@@ -265,7 +270,7 @@ void TextFileArchive::Read(Label label, Bool& value) {
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view word(text);
+    const std::u16string_view word = RestOfLine(text);
     if (word.find(u"TRUE") != std::u16string_view::npos) {
         value = true;
     } else if (word.find(u"FALSE") != std::u16string_view::npos) {

@@ -1,6 +1,7 @@
 #include "engine/file/linereader.h"
 
 #include "engine/string/ascii.h"
+#include "engine/string/stringlibrary.h"
 #include "engine/string/utf8.h"
 
 #include <cstring>
@@ -28,30 +29,29 @@ void LineReader::DetectEncoding() {
     }
 }
 
-LineKind LineReader::ReadLine(char16_t* line, int capacity) {
+LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
     if (encoding == Encoding::Unknown) {
         DetectEncoding();
     }
     const auto limit = static_cast<std::size_t>(capacity - 1);
-    if (ReadPlainLine(line, limit)) {
+    if (ReadPlainLine(line, limit, length)) {
         return LineKind::Whole;
     }
     std::size_t count = 0;
     std::optional<char16_t> unit;
-    bool hasNull = false;
     while (count < limit && unit != u'\n' && (unit = NextUnit())) {
         line[count++] = *unit;
-        hasNull = hasNull || *unit == u'\0';
     }
     if (count == 0) {
         return LineKind::None;
     }
     line[count] = u'\0';
-    return unit == u'\n' && !hasNull ? LineKind::Whole : LineKind::Open;
+    length = static_cast<int>(TextIn(line, capacity).size());
+    return length > 0 && line[length - 1] == u'\n' ? LineKind::Whole : LineKind::Open;
 }
 
 // The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
-bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit) {
+bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
     if (encoding != Encoding::Utf8 || heldBack || lowSurrogate) {
         return false;
     }
@@ -70,6 +70,7 @@ bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit) {
         line[--count - 1] = u'\n';
     }
     line[count] = u'\0';
+    length = static_cast<int>(count);
     return true;
 }
 

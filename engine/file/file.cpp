@@ -68,15 +68,17 @@ void File::PrintText(std::u16string_view text) {
 
 void File::PrintLine(int indentation, std::u16string_view text) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
+    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
     const auto tabs = static_cast<std::size_t>(std::max(indentation, 0));
-    const std::size_t length = tabs + text.size() + 2;
-    bool written = output && length <= kTextPiece;
-    if (written) {
-        char* out = output->Reserve(length, written);
-        char* line = std::fill_n(out, tabs, '\t');
-        if (NarrowAscii(text.data(), text.size(), line)) {
-            std::memcpy(line + text.size(), "\r\n", 2);
-            output->Commit(out + length);
+    if (output && tabs <= kTabs.size() && text.size() <= kTextPiece) {
+        bool written = true;
+        char* out = output->Reserve(kTabs.size() + text.size() + 2, written);
+        std::memcpy(out, kTabs.data(), kTabs.size());
+        out += tabs;
+        if (NarrowAscii(text.data(), text.size(), out)) {
+            out += text.size();
+            std::memcpy(out, "\r\n", 2);
+            output->Commit(out + 2);
             CheckAssert(written, "result >= 0");
             return;
         }

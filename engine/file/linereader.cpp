@@ -4,7 +4,7 @@
 #include "engine/string/stringlibrary.h"
 #include "engine/string/utf8.h"
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -52,17 +52,12 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
 
 // The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
 bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
-    if (encoding != Encoding::Utf8 || heldBack || lowSurrogate) {
+    if (encoding != Encoding::Utf8 || heldBack || lowSurrogate || limit <= kLineBlock) {
         return false;
     }
     input.Ensure(limit);
-    const unsigned char* start = input.Cursor();
-    const void* lineFeed = std::memchr(start, '\n', std::min(limit, input.Available()));
-    if (lineFeed == nullptr) {
-        return false;
-    }
-    std::size_t count = static_cast<std::size_t>(static_cast<const unsigned char*>(lineFeed) - start) + 1;
-    if (!WidenAscii(start, count, line)) {
+    std::size_t count = WidenLine(input.Cursor(), std::min(limit - kLineBlock, input.Available()), line);
+    if (count == 0) {
         return false;
     }
     input.Skip(count);

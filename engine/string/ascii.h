@@ -16,17 +16,6 @@ namespace Vorn {
 
 namespace Ascii {
 
-inline bool WidenEach(const unsigned char* bytes, std::size_t count, char16_t* out) {
-    unsigned all = 0;
-    bool hasNull = false;
-    for (std::size_t i = 0; i < count; ++i) {
-        all |= bytes[i];
-        hasNull = hasNull || bytes[i] == 0;
-        out[i] = bytes[i];
-    }
-    return all < 0x80 && !hasNull;
-}
-
 inline bool NarrowEach(const char16_t* units, std::size_t count, char* out) {
     bool plain = true;
     for (std::size_t i = 0; i < count; ++i) {
@@ -43,7 +32,6 @@ inline bool NarrowEach(const char16_t* units, std::size_t count, char* out) {
 // The last block of every loop overlaps the one before, so that nothing outside the text is read or written.
 namespace Ascii {
 
-inline constexpr std::size_t kBytes = 16;
 inline constexpr std::size_t kUnits = 8;
 
 inline const __m128i* Block(const void* place) {
@@ -53,39 +41,32 @@ inline __m128i* Block(void* place) {
     return static_cast<__m128i*>(place);
 }
 
-// Whether eight bytes of plain text were widened; the lower half of a block.
-inline bool WidenHalf(const unsigned char* bytes, char16_t* out) {
-    const __m128i wide = _mm_unpacklo_epi8(_mm_loadl_epi64(Block(bytes)), _mm_setzero_si128());
-    _mm_storeu_si128(Block(out), wide);
-    // Subtracting one turns 0 into 0xFFFF, whose upper bits show like those of a unit above 0x7F.
-    const __m128i odd = _mm_or_si128(wide, _mm_sub_epi16(wide, _mm_set1_epi16(1)));
-    return _mm_movemask_epi8(_mm_slli_epi16(odd, 8)) == 0;
-}
-
 } // namespace Ascii
 
-// Widens bytes that are all from U+0001 to U+007F.
-inline bool WidenAscii(const unsigned char* bytes, std::size_t count, char16_t* out) {
-    using namespace Ascii;
-    if (count < kBytes) {
-        return count < kUnits
-                   ? WidenEach(bytes, count, out)
-                   : static_cast<bool>(WidenHalf(bytes, out) & WidenHalf(bytes + count - kUnits, out + count - kUnits));
-    }
+// Widens the plain text up to and with the next line feed: bytes from U+0001 to U+007F. Returns how many there were, or
+// 0 if the line is anything else or reaches behind `count` bytes. Both sides need kLineBlock places behind that.
+inline constexpr std::size_t kLineBlock = 16;
+
+inline std::size_t WidenLine(const unsigned char* bytes, std::size_t count, char16_t* out) {
     const __m128i zero = _mm_setzero_si128();
-    __m128i highest = zero;
-    __m128i lowest = _mm_set1_epi8(1);
-    for (std::size_t i = 0;; i = i + 2 * kBytes <= count ? i + kBytes : count - kBytes) {
-        const __m128i block = _mm_loadu_si128(Block(bytes + i));
-        highest = _mm_or_si128(highest, block);
-        lowest = _mm_min_epu8(lowest, block);
-        _mm_storeu_si128(Block(out + i), _mm_unpacklo_epi8(block, zero));
-        _mm_storeu_si128(Block(out + i + kUnits), _mm_unpackhi_epi8(block, zero));
-        if (i + kBytes == count) {
-            break;
+    const __m128i lineFeed = _mm_set1_epi8('\n');
+    for (std::size_t i = 0; i < count; i += kLineBlock) {
+        const __m128i block = _mm_loadu_si128(Ascii::Block(bytes + i));
+        _mm_storeu_si128(Ascii::Block(out + i), _mm_unpacklo_epi8(block, zero));
+        _mm_storeu_si128(Ascii::Block(out + i + kLineBlock / 2), _mm_unpackhi_epi8(block, zero));
+        const auto ends = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, lineFeed)));
+        // The bytes in front of the line feed, or all, where there is none.
+        const unsigned own = ends != 0 ? (ends & (0 - ends)) - 1 : 0xFFFF;
+        const auto odd = static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(block, _mm_cmpeq_epi8(block, zero))));
+        if ((odd & own) != 0) {
+            return 0;
+        }
+        if (ends != 0) {
+            const std::size_t length = i + static_cast<std::size_t>(std::countr_zero(ends)) + 1;
+            return length <= count ? length : 0;
         }
     }
-    return _mm_movemask_epi8(_mm_or_si128(highest, _mm_cmpeq_epi8(lowest, zero))) == 0;
+    return 0;
 }
 
 // Narrows units that are all below U+0080 and no line feed.
@@ -124,8 +105,16 @@ inline const char16_t* FindUnit(const char16_t* begin, const char16_t* end, char
 
 #else
 
-inline bool WidenAscii(const unsigned char* bytes, std::size_t count, char16_t* out) {
-    return Ascii::WidenEach(bytes, count, out);
+inline constexpr std::size_t kLineBlock = 0;
+
+inline std::size_t WidenLine(const unsigned char* bytes, std::size_t count, char16_t* out) {
+    for (std::size_t i = 0; i < count && bytes[i] != 0 && bytes[i] < 0x80; ++i) {
+        out[i] = bytes[i];
+        if (bytes[i] == '\n') {
+            return i + 1;
+        }
+    }
+    return 0;
 }
 
 inline bool NarrowAscii(const char16_t* units, std::size_t count, char* out) {

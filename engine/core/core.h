@@ -3,6 +3,7 @@
 #include "engine/archive/filearchivesystem.h"
 #include "engine/datastructures/fixedarray.h"
 #include "engine/file/filesystem.h"
+#include "engine/render/mesh/meshsystem.h"
 #include "engine/render/texture/texturesystem.h"
 
 namespace Vorn {
@@ -22,6 +23,7 @@ public:
     FileSystem fileSystem;
     FileArchiveSystem fileArchiveSystem{fileSystem};
     TextureSystem textureSystem;
+    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
 
 private:
     struct WellKnownDirectory {

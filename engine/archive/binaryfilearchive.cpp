@@ -46,10 +46,10 @@ bool BinaryFileArchive::ReadBits(Bits& bits) {
     return true;
 }
 
-template <class Bits>
-void BinaryFileArchive::WriteBits(Bits bits) {
-    const Bits stored = LittleEndian(bits);
-    file->Write(&stored, sizeof stored, 1);
+template <class... Bits>
+void BinaryFileArchive::WriteBits(Bits... bits) {
+    const std::common_type_t<Bits...> stored[] = {LittleEndian(bits)...};
+    file->Write(stored, sizeof stored[0], sizeof...(bits));
 }
 
 void BinaryFileArchive::ReadFloat(float& value) {
@@ -199,34 +199,23 @@ void BinaryFileArchive::Read(Label, Archivable& value) {
 }
 
 void BinaryFileArchive::Write(Label, const Color& value) {
-    WriteBits(value.red);
-    WriteBits(value.green);
-    WriteBits(value.blue);
-    WriteBits(value.alpha);
+    WriteBits(value.red, value.green, value.blue, value.alpha);
 }
 
 void BinaryFileArchive::Write(Label, const Rectangle& value) {
-    WriteBits(value.left);
-    WriteBits(value.top);
-    WriteBits(value.right);
-    WriteBits(value.bottom);
+    WriteBits(value.left, value.top, value.right, value.bottom);
 }
 
 void BinaryFileArchive::Write(Label, const Size& value) {
-    WriteBits(value.width);
-    WriteBits(value.height);
+    WriteBits(value.width, value.height);
 }
 
 void BinaryFileArchive::Write(Label, const Point& value) {
-    WriteBits(value.x);
-    WriteBits(value.y);
+    WriteBits(value.x, value.y);
 }
 
 void BinaryFileArchive::Write(Label, const Quad& value) {
-    WriteBits(value.x);
-    WriteBits(value.y);
-    WriteBits(value.z);
-    WriteBits(value.w);
+    WriteBits(value.x, value.y, value.z, value.w);
 }
 
 void BinaryFileArchive::Write(Label, const Matrix44& value) {
@@ -238,9 +227,7 @@ void BinaryFileArchive::Write(Label, const Matrix33& value) {
 }
 
 void BinaryFileArchive::Write(Label, const Vector3& value) {
-    WriteBits(value.x);
-    WriteBits(value.y);
-    WriteBits(value.z);
+    WriteBits(value.x, value.y, value.z);
 }
 
 void BinaryFileArchive::Write(Label, const char16_t* text, int) {

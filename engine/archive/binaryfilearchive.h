@@ -52,8 +52,8 @@ public:
 private:
     template <class Bits>
     bool ReadBits(Bits& bits);
-    template <class Bits>
-    void WriteBits(Bits bits);
+    template <class... Bits>
+    void WriteBits(Bits... bits);
     void ReadFloat(float& value);
     void ReadInt(std::int32_t& value);
     int ReadUnits(char16_t* units, int count);

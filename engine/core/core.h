@@ -22,8 +22,8 @@ public:
 
     FileSystem fileSystem;
     FileArchiveSystem fileArchiveSystem{fileSystem};
-    TextureSystem textureSystem;
     MeshSystem meshSystem{fileSystem, fileArchiveSystem};
+    TextureSystem textureSystem;
 
 private:
     struct WellKnownDirectory {

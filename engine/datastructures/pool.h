@@ -4,6 +4,7 @@
 #include "engine/datastructures/fixedvector.h"
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <utility>
 

@@ -52,11 +52,11 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
 
 // The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
 bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
-    if (encoding != Encoding::Utf8 || heldBack || lowSurrogate || limit <= kLineBlock) {
+    if (!StandsAtByte() || limit <= kWidenBlock) {
         return false;
     }
     input.Ensure(limit);
-    std::size_t count = WidenLine(input.Cursor(), std::min(limit - kLineBlock, input.Available()), line);
+    std::size_t count = WidenUntil(input.Cursor(), std::min(limit - kWidenBlock, input.Available()), line, '\n');
     if (count == 0) {
         return false;
     }

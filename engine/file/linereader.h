@@ -20,6 +20,9 @@ public:
     // `length` counts the units that can be seen.
     LineKind ReadLine(char16_t* line, int capacity, int& length);
 
+    // Whether the next unit begins with the next byte of a UTF-8 file.
+    bool StandsAtByte() const { return encoding == Encoding::Utf8 && !heldBack && !lowSurrogate; }
+
 private:
     enum class Encoding { Unknown, Utf8, Utf16Little, Utf16Big };
 

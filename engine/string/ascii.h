@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 #if defined(__SSE2__) || defined(_M_X64)
@@ -103,20 +104,28 @@ inline bool EqualsAscii(const char* bytes, std::u16string_view text) {
 // Narrows units that are all below U+0080 and no line feed.
 inline bool NarrowAscii(const char16_t* units, std::size_t count, char* out) {
     using namespace Ascii;
-    if (count < kUnits) {
+    constexpr std::size_t kHalf = kUnits / 2;
+    if (count < kHalf) {
         return NarrowEach(units, count, out);
     }
-    const __m128i lineFeed = _mm_set1_epi16(u'\n');
     __m128i high = _mm_setzero_si128();
     __m128i lineFeeds = high;
-    for (std::size_t i = 0;; i = i + 2 * kUnits <= count ? i + kUnits : count - kUnits) {
-        const __m128i block = _mm_loadu_si128(Block(units + i));
+    const auto narrow = [&](__m128i block) {
         high = _mm_or_si128(high, block);
-        lineFeeds = _mm_or_si128(lineFeeds, _mm_cmpeq_epi16(block, lineFeed));
-        _mm_storel_epi64(Block(out + i), _mm_packus_epi16(block, block));
-        if (i + kUnits == count) {
-            break;
+        lineFeeds = _mm_or_si128(lineFeeds, _mm_cmpeq_epi16(block, _mm_set1_epi16(u'\n')));
+        return _mm_packus_epi16(block, block);
+    };
+    if (count < kUnits) {
+        for (const std::size_t i : {std::size_t{0}, count - kHalf}) {
+            const int bytes = _mm_cvtsi128_si32(narrow(_mm_loadl_epi64(Block(units + i))));
+            std::memcpy(out + i, &bytes, sizeof bytes);
         }
+    } else {
+        for (std::size_t i = 0; i + kUnits < count; i += kUnits) {
+            _mm_storel_epi64(Block(out + i), narrow(_mm_loadu_si128(Block(units + i))));
+        }
+        const std::size_t last = count - kUnits;
+        _mm_storel_epi64(Block(out + last), narrow(_mm_loadu_si128(Block(units + last))));
     }
     const __m128i odd = _mm_or_si128(_mm_and_si128(high, _mm_set1_epi16(static_cast<short>(0xFF80))), lineFeeds);
     return _mm_movemask_epi8(_mm_cmpeq_epi16(odd, _mm_setzero_si128())) == 0xFFFF;

@@ -24,30 +24,24 @@ void PutPair(char* out, std::uint32_t value) {
     std::memcpy(out, &kDigitPairs[2 * static_cast<std::size_t>(value)], 2);
 }
 
-int CountDigits(std::uint32_t value) {
-    if (value < 10) {
-        return 1;
-    }
-    int digits = 2;
-    for (std::uint64_t bound = 100; value >= bound; bound *= 10) {
-        ++digits;
-    }
-    return digits;
-}
-
 char* PutUint(char* out, std::uint32_t value) {
-    char* end = out + CountDigits(value);
-    char* cursor = end;
-    while (value >= 100) {
-        PutPair(cursor -= 2, value % 100);
-        value /= 100;
+    if (value >= 10000) {
+        out = PutUint(out, value / 10000);
+        PutPair(out, value / 100 % 100);
+        PutPair(out + 2, value % 100);
+        return out + 4;
+    }
+    if (value >= 100) {
+        out = PutUint(out, value / 100);
+        PutPair(out, value % 100);
+        return out + 2;
     }
     if (value >= 10) {
-        PutPair(cursor - 2, value);
-    } else {
-        cursor[-1] = static_cast<char>('0' + value);
+        PutPair(out, value);
+        return out + 2;
     }
-    return end;
+    *out = static_cast<char>('0' + value);
+    return out + 1;
 }
 
 char* PutUint64(char* out, std::uint64_t value) {

@@ -51,11 +51,14 @@ public:
 
     // Up to nine digits, so that no number needs to wrap.
     PlainScanner& Int(std::int32_t& value) {
-        const bool negative = TakeMinus();
+        const bool negative = *cursor == '-';
+        const char* start = cursor + (negative ? 1 : 0);
         std::uint32_t magnitude = 0;
-        if (!IsShort(TakeDigits(magnitude))) [[unlikely]] {
+        const char* end = TakeDigits(start, magnitude);
+        if (!IsShort(end - start)) [[unlikely]] {
             return Fail();
         }
+        cursor = end;
         value = static_cast<std::int32_t>(negative ? 0 - magnitude : magnitude);
         return *this;
     }
@@ -63,11 +66,14 @@ public:
     // Up to nine digits, a point and six more. Their quotient is exact in 64 bits but for one rounding; the second one
     // is safe unless it starts from the middle between two floats.
     PlainScanner& Float(float& value) {
-        const bool negative = TakeMinus();
+        const bool negative = *cursor == '-';
+        const char* start = cursor + (negative ? 1 : 0);
         std::uint64_t millionths = 0;
-        if (!IsShort(TakeDigits(millionths)) || *cursor++ != '.' || !TakeSixDigits(millionths)) [[unlikely]] {
+        const char* point = TakeDigits(start, millionths);
+        if (!IsShort(point - start) || *point != '.' || !AddSixDigits(point + 1, millionths)) [[unlikely]] {
             return Fail();
         }
+        cursor = point + 7;
         const double quotient = static_cast<double>(millionths) / 1e6;
         if ((std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) == 0x10000000) [[unlikely]] {
             return Fail();
@@ -125,32 +131,25 @@ private:
         return *this;
     }
 
-    bool TakeMinus() {
-        const bool negative = *cursor == '-';
-        cursor += negative ? 1 : 0;
-        return negative;
-    }
-
-    // Appends digits to a number and returns how many there were.
+    // Appends digits to a number and returns where they end.
     template <class Number>
-    std::ptrdiff_t TakeDigits(Number& number) {
-        const char* start = cursor;
-        for (std::uint32_t digit = Digit(); digit < 10; digit = Digit()) {
+    static const char* TakeDigits(const char* p, Number& number) {
+        for (std::uint32_t digit = DigitAt(p); digit < 10; digit = DigitAt(p)) {
             number = number * 10 + digit;
-            ++cursor;
+            ++p;
         }
-        return cursor - start;
+        return p;
     }
 
     // Appends exactly six digits. They are taken as the last of eight in the bytes of a word, summed by pairs, then by
     // fours.
-    bool TakeSixDigits(std::uint64_t& number) {
+    static bool AddSixDigits(const char* p, std::uint64_t& number) {
         if constexpr (std::endian::native != std::endian::little) {
             return false;
         }
         constexpr std::uint64_t kEachByte = 0x0101010101010101;
         std::uint64_t digits = 0;
-        std::memcpy(&digits, cursor, sizeof digits);
+        std::memcpy(&digits, p, sizeof digits);
         digits ^= kEachByte * '0';
         const std::uint64_t beyondNine = (digits | (digits + kEachByte * 0x76)) & kEachByte * 0x80;
         if ((beyondNine & 0x00FFFFFFFFFFFFFF) != std::uint64_t{0x80} << 48) {
@@ -162,15 +161,17 @@ private:
         const std::uint64_t sum = (pairs & kEveryFourth) * (100 + (std::uint64_t{1000000} << 32)) +
                                   (pairs >> 16 & kEveryFourth) * (1 + (std::uint64_t{10000} << 32));
         number = number * 1000000 + (sum >> 32);
-        cursor += 6;
         return true;
     }
 
-    std::uint32_t Digit() const { return static_cast<std::uint32_t>(static_cast<unsigned char>(*cursor)) - '0'; }
+    static std::uint32_t DigitAt(const char* p) {
+        return static_cast<std::uint32_t>(static_cast<unsigned char>(*p)) - '0';
+    }
 
     std::uint32_t HexDigit() const {
-        const std::uint32_t letter = static_cast<std::uint32_t>(static_cast<unsigned char>(*cursor)) - 'a';
-        return Digit() < 10 ? Digit() : letter < 6 ? letter + 10 : 16;
+        const std::uint32_t digit = DigitAt(cursor);
+        const std::uint32_t letter = digit - ('a' - '0');
+        return digit < 10 ? digit : letter < 6 ? letter + 10 : 16;
     }
 
     const char* cursor;

@@ -65,6 +65,10 @@ public:
     }
     void EnumNumber(Label label, std::int32_t& value, const EnumTable& table);
 
+    // An angle in radians that every file holds in degrees, converted in 32 bits both ways. The two factors are not
+    // exact inverses, so a conversion may change the last bits. A missing angle is 0.
+    void Degrees(Label label, float& radians);
+
     // A nested group of fields under a label of its own.
     void Record(Label label, Archivable& value) { Transfer(label, value); }
 

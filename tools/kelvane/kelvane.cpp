@@ -3,6 +3,7 @@
 #include "engine/core/core.h"
 #include "engine/string/utf8.h"
 #include "engine/window/brushset.h"
+#include "gs/entity/entitysystem.h"
 #include "tools/kelvane/savegame.h"
 
 namespace Vorn {
@@ -38,6 +39,15 @@ void ConvertBrushes(Core& core, const Conversion& conversion) {
     brushSet.ReleaseTextures();
 }
 
+void ConvertEntity(Core& core, const Conversion& conversion) {
+    EntitySystem entitySystem(core.fileArchiveSystem);
+    const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(conversion.source);
+    if (definition != nullptr) {
+        WriteDestination(core, conversion,
+                         [&](Archive& archive) { EntitySystem::WriteEntityDef(archive, *definition); });
+    }
+}
+
 void ConvertSaveGame(Core&, const Conversion& conversion) {
     StampSaveGame(conversion.source, conversion.destination);
 }
@@ -49,6 +59,7 @@ struct ContentType {
 
 constexpr ContentType kContentTypes[] = {
     {u"brushes", ConvertBrushes},
+    {u"entity", ConvertEntity},
     {u"saveGame", ConvertSaveGame},
 };
 

@@ -1,0 +1,82 @@
+#include "gs/entity/entitytypes.h"
+
+#include <array>
+
+namespace Vorn {
+
+namespace {
+
+template <class Definition>
+[[maybe_unused]] std::unique_ptr<EntityDef> Make() {
+    return std::make_unique<Definition>();
+}
+
+// The order is kept for good: other tables number the types by it.
+constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
+    {u"Ability", nullptr},
+    {u"Buff", nullptr},
+    {u"EmpireWindowNode", nullptr},
+    {u"Fighter", nullptr},
+    {u"Squad", nullptr},
+    {u"Debris", nullptr},
+    {u"Weapon", nullptr},
+    {u"CannonShell", nullptr},
+    {u"CapitalShip", nullptr},
+    {u"Cosmetic", nullptr},
+    {u"EntryVehicle", nullptr},
+    {u"Fleet", nullptr},
+    {u"Formation", nullptr},
+    {u"Frigate", nullptr},
+    {u"MissionAttackPlanet", nullptr},
+    {u"MissionCaptureResources", nullptr},
+    {u"MissionColonize", nullptr},
+    {u"MissionDefendFlagship", nullptr},
+    {u"MissionBuildStarBase", nullptr},
+    {u"MissionBuildMines", nullptr},
+    {u"MissionExplore", nullptr},
+    {u"MissionRaid", nullptr},
+    {u"PipCloud", nullptr},
+    {u"Planet", nullptr},
+    {u"PlanetBonus", nullptr},
+    {u"PlanetConnection", nullptr},
+    {u"PlanetModuleHangarDefense", nullptr},
+    {u"PlanetModuleShipFactory", nullptr},
+    {u"PlanetModuleStandard", nullptr},
+    {u"PlanetModuleTradePort", nullptr},
+    {u"PlanetModuleRefinery", nullptr},
+    {u"PlanetModuleSpaceMine", nullptr},
+    {u"PlanetModuleUserAbilityModule", nullptr},
+    {u"PlanetModuleWeaponDefense", nullptr},
+    {u"Player", nullptr},
+    {u"Quest", nullptr},
+    {u"ResearchSubject", nullptr},
+    {u"ResourceAsteroid", nullptr},
+    {u"SpaceMine", nullptr},
+    {u"Star", nullptr},
+    {u"StarBase", nullptr},
+    {u"StarBaseUpgrade", nullptr},
+    {u"Titan", nullptr},
+    {u"TitanUpgrade", nullptr},
+    {u"MissionFosterRelationships", nullptr},
+    {u"Trigger", nullptr},
+    {u"MissionCaptureMinorFaction", nullptr},
+};
+
+constexpr auto kEntityTypeTexts = [] {
+    std::array<std::u16string_view, kEntityTypeCount> texts{};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        texts[i] = kEntityTypeRows[i].text;
+    }
+    return texts;
+}();
+
+} // namespace
+
+const EnumTable kEntityTypeTable = {"EntityType", kEntityTypeTexts.data(), kEntityTypeCount};
+
+const EntityTypeRow* FindEntityType(EntityType type) {
+    const auto number = static_cast<std::int32_t>(type);
+    return number >= 0 && number < kEntityTypeCount ? &kEntityTypeRows[number] : nullptr;
+}
+
+} // namespace Vorn

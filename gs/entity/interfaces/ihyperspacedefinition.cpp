@@ -1,0 +1,25 @@
+#include "gs/entity/interfaces/ihyperspacedefinition.h"
+
+namespace Vorn {
+
+void IHyperspaceDefinition::HyperspaceEffects::Fields(FieldIo& io) {
+    io.Value(u"chargeUpEffectName", chargeUpEffectName);
+    io.Value(u"chargeUpEffectNameBetweenStars", chargeUpEffectNameBetweenStars);
+    io.Value(u"chargeUpEffectNameDestabilized", chargeUpEffectNameDestabilized);
+    io.Value(u"chargeUpEffectSoundID", chargeUpEffectSoundID);
+    io.Value(u"travelEffectName", travelEffectName);
+    io.Value(u"travelEffectNameBetweenStars", travelEffectNameBetweenStars);
+    io.Value(u"travelEffectNameDestabilized", travelEffectNameDestabilized);
+    io.Value(u"travelEffectSoundID", travelEffectSoundID);
+    io.Value(u"exitEffectName", exitEffectName);
+    io.Value(u"exitEffectSoundID", exitEffectSoundID);
+}
+
+void IHyperspaceDefinition::Fields(FieldIo& io) {
+    io.Bool(u"useCustomHyperspaceEffects", useCustomHyperspaceEffects);
+    if (useCustomHyperspaceEffects) {
+        io.Record(u"effects", effects);
+    }
+}
+
+} // namespace Vorn

@@ -2,6 +2,7 @@
 
 #include "engine/archive/checksum.h"
 #include "engine/core/reporting.h"
+#include "engine/string/ascii.h"
 #include "engine/string/numbertext.h"
 #include "engine/string/scan.h"
 
@@ -39,8 +40,8 @@ std::int32_t BitsOf(float value) {
 
 } // namespace
 
-// A line on its way to the file. The room behind the capacity takes any number whole, so that only texts have to look
-// at the limit; what stands behind it is cut at the end.
+// A line on its way to the file. Label and text are cut where they alone would fill a line; so the room suffices for
+// them and for the numbers of any form, and only the finished line has to be held against the capacity.
 class TextFileArchive::Line {
 public:
     explicit Line(Label label) { Text(label); }
@@ -48,39 +49,38 @@ public:
     Line& operator=(const Line&) = delete;
 
     Line& Text(std::u16string_view text) {
-        const auto room = static_cast<std::size_t>(units + kLimit + 1 - Clamped());
-        const std::size_t count = std::min(text.size(), room);
-        std::char_traits<char16_t>::copy(cursor, text.data(), count);
-        cursor += count;
-        return *this;
+        const std::size_t count = std::min<std::size_t>(text.size(), kLineCapacity);
+        std::memcpy(cursor, text.data(), count * sizeof(char16_t));
+        return Put(cursor + count);
     }
-    Line& Int(std::int32_t value) { return Put(PutInt(Clamped(), value)); }
-    Line& Int64(std::int64_t value) { return Put(PutInt64(Clamped(), value)); }
-    Line& Hex(std::uint32_t value) { return Put(PutHex(Clamped(), value)); }
-    Line& Float(float value) { return Put(PutFixed6(Clamped(), value)); }
-    Line& Double(double value, int places = 6) { return Put(PutFixed(Clamped(), value, places)); }
+    template <std::size_t N>
+    Line& Literal(const char16_t (&text)[N]) {
+        std::memcpy(cursor, text, (N - 1) * sizeof(char16_t));
+        return Put(cursor + N - 1);
+    }
+    Line& Int(std::int32_t value) { return Put(PutInt(cursor, value)); }
+    Line& Int64(std::int64_t value) { return Put(PutInt64(cursor, value)); }
+    Line& Hex(std::uint32_t value) { return Put(PutHex(cursor, value)); }
+    Line& Float(float value) { return Put(PutFixed6(cursor, value)); }
+    Line& Double(double value, int places = 6) { return Put(PutFixed(cursor, value, places)); }
 
     // The finished line, cut at the capacity with its check.
     std::u16string_view View() const {
+        constexpr std::size_t kLimit = kLineCapacity - 1;
         const auto length = static_cast<std::size_t>(cursor - units);
         CheckAssert(length <= kLimit, "! FAILED( hr )");
         return {units, std::min(length, kLimit)};
     }
 
 private:
-    static constexpr std::size_t kLimit = kLineCapacity - 1;
+    static constexpr int kNumbersRoom = 2 * kNumberTextCapacity;
 
-    // One unit over the limit is enough to know that the line is to be cut.
-    char16_t* Clamped() {
-        cursor = std::min(cursor, units + kLimit + 1);
-        return cursor;
-    }
     Line& Put(char16_t* end) {
         cursor = end;
         return *this;
     }
 
-    char16_t units[kLineCapacity + kNumberTextCapacity];
+    char16_t units[2 * kLineCapacity + kNumbersRoom];
     char16_t* cursor = units;
 };
 
@@ -90,12 +90,16 @@ void TextFileArchive::Put(const Line& line) {
 
 // Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
 void TextFileArchive::TakeLine() {
-    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer());
+    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
     if (!isFresh) {
         CountIdleRead();
     }
     ++lineNumber;
     m_CurrentLineUnread = false;
+}
+
+std::u16string_view TextFileArchive::RestOfLine(const char16_t* text) const {
+    return {text, static_cast<std::size_t>(currentLine.Units() + currentLineLength - text)};
 }
 
 // The value behind the label of the next line, or null after a report.
@@ -125,7 +129,7 @@ void TextFileArchive::ReportMissingQuote(Label label) const {
 // The form of a Vector3, a Quad and a matrix row. The bits, where the archive has them, replace the decimals.
 template <int N>
 void TextFileArchive::ReadFloats(const char16_t* text, float* const (&values)[N]) {
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     scanner.Blank().Literal(u'[');
     if (hasFloatBits) {
         float decimals = 0.0f;
@@ -167,7 +171,7 @@ void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
 void TextFileArchive::Read(Label label, Color& value) {
     const char16_t* text = FindLabel(label);
     std::uint32_t packed = 0;
-    if (text != nullptr && Scanner(text).Hex(packed).Stored() == 1) {
+    if (text != nullptr && Scanner(RestOfLine(text)).Hex(packed).Stored() == 1) {
         value = Color::FromUInt(packed);
     }
 }
@@ -181,7 +185,7 @@ void TextFileArchive::Read(Label label, Rectangle& value) {
     std::int32_t y = -1;
     std::int32_t width = -1;
     std::int32_t height = -1;
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     scanner.Literal(u'[').Int(x).Blank().Literal(u',').Int(y).Blank().Literal(u',').Int(width).Blank().Literal(u',');
     scanner.Int(height);
     CheckResult(scanner, 4);
@@ -202,7 +206,7 @@ void TextFileArchive::Read(Label label, Point& value) {
     if (text == nullptr) {
         return;
     }
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     scanner.Literal(u'[').Int(value.x).Blank().Literal(u',').Int(value.y);
     CheckResult(scanner, 2);
     checkSum += static_cast<std::uint32_t>(value.x) + static_cast<std::uint32_t>(value.y);
@@ -233,30 +237,30 @@ void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view value(text);
-    const std::size_t opening = value.find(u'"');
+    const char16_t* end = currentLine.Units() + currentLineLength;
+    const char16_t* opening = FindUnit(text, end, u'"');
     buffer[0] = u'\0';
-    if (opening == std::u16string_view::npos) {
+    if (opening == end) {
         ReportMissingQuote(label);
         return;
     }
-    const std::u16string_view quoted = value.substr(opening + 1);
-    const std::size_t closing = quoted.find(u'"');
-    const int length = static_cast<int>(std::min(closing, quoted.size()));
+    const char16_t* quoted = opening + 1;
+    const char16_t* closing = FindUnit(quoted, end, u'"');
+    const int length = static_cast<int>(closing - quoted);
     for (int numCharsCopied = bufferSize; numCharsCopied <= length; ++numCharsCopied) {
         CheckAssert(numCharsCopied < bufferSize, "numCharsCopied < bufferSize");
     }
     const int kept = std::min(length, bufferSize - 1);
-    std::copy_n(quoted.data(), kept, buffer);
+    std::copy_n(quoted, kept, buffer);
     buffer[kept] = u'\0';
-    if (closing == std::u16string_view::npos) {
+    if (closing == end) {
         ReportMissingQuote(label);
     }
 }
 
 void TextFileArchive::Read(Label label, std::int64_t& value) {
     if (const char16_t* text = FindLabel(label)) {
-        CheckResult(Scanner(text).Int64(value), 1);
+        CheckResult(Scanner(RestOfLine(text)).Int64(value), 1);
     }
 }
 
@@ -265,7 +269,7 @@ void TextFileArchive::Read(Label label, Bool& value) {
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view word(text);
+    const std::u16string_view word = RestOfLine(text);
     if (word.find(u"TRUE") != std::u16string_view::npos) {
         value = true;
     } else if (word.find(u"FALSE") != std::u16string_view::npos) {
@@ -281,7 +285,7 @@ void TextFileArchive::Read(Label label, double& value) {
     if (text == nullptr) {
         return;
     }
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     if (hasFloatBits) {
         double decimals = 0.0;
         auto bits = std::bit_cast<std::int64_t>(value);
@@ -299,7 +303,7 @@ void TextFileArchive::Read(Label label, float& value) {
     if (text == nullptr) {
         return;
     }
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     if (hasFloatBits) {
         float decimals = 0.0f;
         std::int32_t bits = BitsOf(value);
@@ -314,7 +318,7 @@ void TextFileArchive::Read(Label label, float& value) {
 
 void TextFileArchive::Read(Label label, std::int32_t& value) {
     if (const char16_t* text = FindLabel(label)) {
-        CheckResult(Scanner(text).Int(value), 1);
+        CheckResult(Scanner(RestOfLine(text)).Int(value), 1);
         checkSum += static_cast<std::uint32_t>(value);
     }
 }
@@ -343,17 +347,17 @@ void TextFileArchive::Read(Label label, Archivable& value) {
 
 template <class... Floats>
 void TextFileArchive::PutFloats(Line& line, Floats... values) const {
-    line.Text(u" [");
+    line.Literal(u" [");
     if (!hasFloatBits) {
-        (line.Text(u" ").Float(values), ...);
-        line.Text(u" ]");
+        (line.Literal(u" ").Float(values), ...);
+        line.Literal(u" ]");
         return;
     }
-    (line.Text(u" ").Double(static_cast<double>(values), 2), ...);
-    line.Text(u" ] Bits=[");
-    std::u16string_view separator = u" ";
-    ((line.Text(separator).Int(BitsOf(values)), separator = u" , "), ...);
-    line.Text(u" ]");
+    (line.Literal(u" ").Double(static_cast<double>(values), 2), ...);
+    line.Literal(u" ] Bits=[");
+    bool isFirst = true;
+    ((isFirst ? line.Literal(u" ") : line.Literal(u" , "), line.Int(BitsOf(values)), isFirst = false), ...);
+    line.Literal(u" ]");
 }
 
 template <int N>
@@ -375,13 +379,13 @@ void TextFileArchive::WriteRows(Label label, const float (&rows)[N][N]) {
 }
 
 void TextFileArchive::Write(Label label, const Color& value) {
-    Put(Line(label).Text(u" ").Hex(value.ToUInt()));
+    Put(Line(label).Literal(u" ").Hex(value.ToUInt()));
 }
 
 void TextFileArchive::Write(Label label, const Rectangle& value) {
     Line line(label);
-    line.Text(u" [ ").Int(value.left).Text(u" , ").Int(value.top).Text(u" , ");
-    Put(line.Int(value.Width()).Text(u" , ").Int(value.Height()).Text(u" ]"));
+    line.Literal(u" [ ").Int(value.left).Literal(u" , ").Int(value.top).Literal(u" , ");
+    Put(line.Int(value.Width()).Literal(u" , ").Int(value.Height()).Literal(u" ]"));
 }
 
 void TextFileArchive::Write(Label label, const Size& value) {
@@ -389,7 +393,7 @@ void TextFileArchive::Write(Label label, const Size& value) {
 }
 
 void TextFileArchive::Write(Label label, const Point& value) {
-    Put(Line(label).Text(u" [ ").Int(value.x).Text(u" , ").Int(value.y).Text(u" ]"));
+    Put(Line(label).Literal(u" [ ").Int(value.x).Literal(u" , ").Int(value.y).Literal(u" ]"));
 }
 
 void TextFileArchive::Write(Label label, const Quad& value) {
@@ -413,11 +417,11 @@ void TextFileArchive::Write(Label label, const Vector3& value) {
 }
 
 void TextFileArchive::Write(Label label, const char16_t* text, int) {
-    Put(Line(label).Text(u" \"").Text(text).Text(u"\""));
+    Put(Line(label).Literal(u" \"").Text(text).Literal(u"\""));
 }
 
 void TextFileArchive::Write(Label label, const std::int64_t& value) {
-    Put(Line(label).Text(u" ").Int64(value));
+    Put(Line(label).Literal(u" ").Int64(value));
 }
 
 void TextFileArchive::Write(Label label, const Bool& value) {
@@ -427,9 +431,9 @@ void TextFileArchive::Write(Label label, const Bool& value) {
 void TextFileArchive::Write(Label label, const double& value) {
     Line line(label);
     if (hasFloatBits) {
-        line.Text(u" ").Double(value, 2).Text(u" Bits=").Int64(std::bit_cast<std::int64_t>(value));
+        line.Literal(u" ").Double(value, 2).Literal(u" Bits=").Int64(std::bit_cast<std::int64_t>(value));
     } else {
-        line.Text(u" ").Double(value);
+        line.Literal(u" ").Double(value);
     }
     Put(line);
 }
@@ -437,19 +441,19 @@ void TextFileArchive::Write(Label label, const double& value) {
 void TextFileArchive::Write(Label label, const float& value) {
     Line line(label);
     if (hasFloatBits) {
-        line.Text(u" ").Double(static_cast<double>(value), 2).Text(u" Bits=").Int(BitsOf(value));
+        line.Literal(u" ").Double(static_cast<double>(value), 2).Literal(u" Bits=").Int(BitsOf(value));
     } else {
-        line.Text(u" ").Float(value);
+        line.Literal(u" ").Float(value);
     }
     Put(line);
 }
 
 void TextFileArchive::Write(Label label, const std::int32_t& value) {
-    Put(Line(label).Text(u" ").Int(value));
+    Put(Line(label).Literal(u" ").Int(value));
 }
 
 void TextFileArchive::Write(Label label, const std::uint32_t& value) {
-    Put(Line(label).Text(u" ").Int(static_cast<std::int32_t>(value)));
+    Put(Line(label).Literal(u" ").Int(static_cast<std::int32_t>(value)));
 }
 
 void TextFileArchive::Write(Label label, const SingleLineArchivable& value) {

@@ -59,6 +59,7 @@ private:
     class Line;
 
     void TakeLine();
+    std::u16string_view RestOfLine(const char16_t* text) const;
     const char16_t* FindLabel(Label label);
     void ReportMissingLabel(Label label) const;
     void ReportMissingQuote(Label label) const;
@@ -74,6 +75,7 @@ private:
 
     std::int32_t m_TabDepth = 0;
     FixedString<kLineCapacity> currentLine;
+    int currentLineLength = 0;
     std::int32_t lineNumber = 0;
     bool m_CurrentLineUnread = false;
 };

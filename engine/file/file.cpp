@@ -68,15 +68,24 @@ void File::PrintText(std::u16string_view text) {
 
 void File::PrintLine(int indentation, std::u16string_view text) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    constexpr int kTabs = 16;
-    bool written = true;
-    for (; indentation > 0; indentation -= kTabs) {
-        written =
-            PutText({u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t", static_cast<std::size_t>(std::min(indentation, kTabs))}) &&
-            written;
+    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+    const auto tabs = static_cast<std::size_t>(std::max(indentation, 0));
+    if (output && tabs <= kTabs.size() && text.size() <= kTextPiece) {
+        bool written = true;
+        char* out = output->Reserve(kTabs.size() + text.size() + 2, written);
+        std::memcpy(out, kTabs.data(), kTabs.size());
+        out += tabs;
+        if (NarrowAscii(text.data(), text.size(), out)) {
+            out += text.size();
+            std::memcpy(out, "\r\n", 2);
+            output->Commit(out + 2);
+            CheckAssert(written, "result >= 0");
+            return;
+        }
     }
-    written = PutText(text) && written;
-    CheckAssert(output && output->Put("\r\n", 2) && written, "result >= 0");
+    PrintText(std::u16string(tabs, u'\t'));
+    PrintText(text);
+    PrintText(u"\n");
 }
 
 bool File::PutText(std::u16string_view text) {
@@ -92,9 +101,9 @@ bool File::PutText(std::u16string_view text) {
     return written;
 }
 
-bool File::GetString(StringBuffer line) {
+bool File::GetString(StringBuffer line, int& length) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    const LineKind kind = lines ? lines->ReadLine(line.m_Buffer, line.m_BufferSize) : LineKind::None;
+    const LineKind kind = lines ? lines->ReadLine(line.m_Buffer, line.m_BufferSize, length) : LineKind::None;
     if (kind == LineKind::None) {
         if (input && input->HasFailed()) {
             ReportError(u"File GetString - Error Encountered. [ File = %s ]\n", name);

@@ -37,7 +37,13 @@ public:
 
     // Reads a line into the buffer, line feed included; true at the end of the file, where the buffer keeps its
     // content. A line without its line feed, or one longer than the buffer, is reported and read as far as it goes.
-    bool GetString(StringBuffer line);
+    bool GetString(StringBuffer line) {
+        int length = 0;
+        return GetString(line, length);
+    }
+
+    // The same with the length of the line in code units, line feed included.
+    bool GetString(StringBuffer line, int& length);
 
     // Reads up to `count` elements and returns how many were there whole; fewer are reported. The bytes of a partial
     // element are consumed.

@@ -13,7 +13,10 @@ inline constexpr std::size_t kFileBlock = 65536;
 // The buffered bytes of a file that is read.
 class ReadBuffer {
 public:
-    explicit ReadBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock]) {}
+    // Bytes that may be looked at behind the last one.
+    static constexpr std::size_t kSlack = 16;
+
+    explicit ReadBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock + kSlack]) {}
 
     std::size_t Available() const { return static_cast<std::size_t>(end - cursor); }
     const unsigned char* Cursor() const { return cursor; }

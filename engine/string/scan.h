@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace Vorn {
 
@@ -24,7 +25,8 @@ inline const char16_t* SkipWhiteSpace(const char16_t* text) {
 // even; overflow stores an infinity. No hexadecimal floats, no locale.
 class Scanner {
 public:
-    explicit Scanner(const char16_t* text) : cursor(text) {}
+    // The text must have its terminator behind it.
+    explicit Scanner(std::u16string_view text) : cursor(text.data()), end(text.data() + text.size()) {}
 
     // Any run of white space, also none.
     Scanner& Blank() {
@@ -58,7 +60,7 @@ private:
     bool ScanDouble(double& value);
 
     // An empty text fits no further step but a blank.
-    void Fail() { cursor = u""; }
+    void Fail() { cursor = end; }
 
     Scanner& Store(bool scanned) {
         if (scanned) {
@@ -70,6 +72,7 @@ private:
     }
 
     const char16_t* cursor;
+    const char16_t* end;
     int stored = 0;
 };
 

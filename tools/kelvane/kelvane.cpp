@@ -33,6 +33,19 @@ bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     return true;
 }
 
+// A mesh that was not found ends the process where it would be written, with the destination open.
+void ConvertMesh(Core& core, const Conversion& conversion) {
+    Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        if (mesh == nullptr) {
+            EndAbnormally();
+        }
+        archive.Write(u"MeshData", mesh->data);
+    });
+    core.meshSystem.ReleaseMesh(mesh);
+    core.meshSystem.FreeAll();
+}
+
 void ConvertBrushes(Core& core, const Conversion& conversion) {
     BrushSet brushSet(conversion.source);
     brushSet.Load(core.fileArchiveSystem);
@@ -72,6 +85,8 @@ struct ContentType {
 };
 
 constexpr ContentType kContentTypes[] = {
+    {u"mesh", ConvertMesh},
+    {u"MESH", ConvertMesh},
     {u"brushes", ConvertBrushes},
     {u"entity", ConvertEntity},
     {u"particle", ConvertParticle},

@@ -16,7 +16,7 @@ constexpr BillboardQuad kAnchoredQuads[] = {
 
 } // namespace
 
-BillboardQuad GetBillboardQuad(std::uint32_t anchor) {
+BillboardQuad QuadOfAnchor(std::uint32_t anchor) {
     const bool isAnchor = anchor < std::size(kAnchoredQuads);
     CheckAssert(isAnchor, "false");
     return isAnchor ? kAnchoredQuads[anchor] : BillboardQuad{};

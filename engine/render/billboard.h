@@ -14,6 +14,6 @@ struct BillboardQuad {
 
 // The square of an anchor, which says where in the square its point lies: centre, left, right, top left, top, top
 // right, bottom right, bottom, bottom left, from 0. Any other number fires the check "false" and gives zeros.
-BillboardQuad GetBillboardQuad(std::uint32_t anchor);
+BillboardQuad QuadOfAnchor(std::uint32_t anchor);
 
 } // namespace Vorn

@@ -1,6 +1,6 @@
 #include "gs/render/particle/particleaffector.h"
 
-#include "engine/core/abnormalend.h"
+#include "gs/render/particle/appendorend.h"
 #include "gs/render/particle/particlesimulationdefinition.h"
 
 namespace Vorn {
@@ -39,13 +39,9 @@ void ParticleAffector::UpdateAttachedEmitters() {
 }
 
 void ParticleAffector::AppendAttachedEmitter(std::u16string_view emitterName) {
-    const bool hasRoom = attachedEmitterNames.Size() < kMaxAttachedEmitters;
     Name kept;
     kept.Assign(emitterName);
-    attachedEmitterNames.Append(kept);
-    if (!hasRoom) {
-        EndAbnormally();
-    }
+    AppendOrEnd(attachedEmitterNames) = kept;
 }
 
 void ParticleAffector::AddAttachedEmitter(std::u16string_view emitterName) {

@@ -115,7 +115,7 @@ void ParticleEmitter::SetName(std::u16string_view newName) {
 
 void ParticleEmitter::SetBillboardAnchor(std::uint32_t anchor) {
     billboardAnchor = anchor;
-    billboardQuad = Vorn::GetBillboardQuad(anchor);
+    billboardQuad = QuadOfAnchor(anchor);
 }
 
 void ParticleEmitter::StripFilePaths() {

@@ -3,10 +3,10 @@
 namespace Vorn {
 
 void ParticlePart::NameFields(FieldIo& io) {
-    Name fileName = name;
-    io.String(u"Name", fileName);
+    Name storedName = name;
+    io.String(u"Name", storedName);
     if (io.Reading()) {
-        SetName(fileName.View());
+        SetName(storedName.View());
     }
     io.Bool(u"Enabled", enabled);
 }

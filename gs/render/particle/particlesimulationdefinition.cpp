@@ -1,7 +1,7 @@
 #include "gs/render/particle/particlesimulationdefinition.h"
 
-#include "engine/core/abnormalend.h"
 #include "engine/file/path.h"
+#include "gs/render/particle/appendorend.h"
 
 namespace Vorn {
 
@@ -9,20 +9,14 @@ namespace {
 
 constexpr std::int32_t kNoCount = -1;
 
-// Ends the process for a part that the effect cannot hold: one of a type without a class, or one too many.
+// Ends the process for a part that the effect cannot hold: null, for a type without a class, or one too many.
 template <class Part, int N>
 Part& AppendPart(FixedVector<std::unique_ptr<Part>, N>& parts, std::unique_ptr<Part> part) {
     CheckAssert(part != nullptr, "false");
     if (part == nullptr) {
         EndAbnormally();
     }
-    const bool hasRoom = parts.Size() < N;
-    std::unique_ptr<Part>& slot = parts.Append();
-    if (!hasRoom) {
-        EndAbnormally();
-    }
-    slot = std::move(part);
-    return *slot;
+    return *(AppendOrEnd(parts) = std::move(part));
 }
 
 struct PartLabels {

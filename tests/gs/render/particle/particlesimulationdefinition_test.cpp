@@ -44,6 +44,9 @@ TEST_F(ParticleSimulationDefinitionTest, RenamingAnEmitterMovesItToTheEndOfTheLi
     EXPECT_TRUE(attached.IsAttachedTo(0));
     EXPECT_EQ(unattached.FindAttachedEmitter(u"Flare"), -1);
     EXPECT_FALSE(unattached.IsAttachedTo(0));
+
+    definition.Clear();
+    EXPECT_EQ(definition.GetEmitterCount(), 0);
 }
 
 TEST_F(ParticleSimulationDefinitionTest, AnchorsChooseTheQuad) {

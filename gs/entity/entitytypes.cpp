@@ -1,9 +1,14 @@
 #include "gs/entity/entitytypes.h"
 
 #include "gs/entity/types/cannonshelldef.h"
+#include "gs/entity/types/capitalshipdef.h"
+#include "gs/entity/types/fighterdef.h"
 #include "gs/entity/types/fleetdef.h"
 #include "gs/entity/types/formationdef.h"
+#include "gs/entity/types/frigatedef.h"
 #include "gs/entity/types/researchsubjectdef.h"
+#include "gs/entity/types/squaddef.h"
+#include "gs/entity/types/titandef.h"
 #include "gs/entity/types/weapondef.h"
 
 #include <array>
@@ -22,17 +27,17 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Ability", nullptr},
     {u"Buff", nullptr},
     {u"EmpireWindowNode", nullptr},
-    {u"Fighter", nullptr},
-    {u"Squad", nullptr},
+    {u"Fighter", Make<FighterDef>},
+    {u"Squad", Make<SquadDef>},
     {u"Debris", nullptr},
     {u"Weapon", Make<WeaponDef>},
     {u"CannonShell", Make<CannonShellDef>},
-    {u"CapitalShip", nullptr},
+    {u"CapitalShip", Make<CapitalShipDef>},
     {u"Cosmetic", nullptr},
     {u"EntryVehicle", nullptr},
     {u"Fleet", Make<FleetDef>},
     {u"Formation", Make<FormationDef>},
-    {u"Frigate", nullptr},
+    {u"Frigate", Make<FrigateDef>},
     {u"MissionAttackPlanet", nullptr},
     {u"MissionCaptureResources", nullptr},
     {u"MissionColonize", nullptr},
@@ -61,7 +66,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Star", nullptr},
     {u"StarBase", nullptr},
     {u"StarBaseUpgrade", nullptr},
-    {u"Titan", nullptr},
+    {u"Titan", Make<TitanDef>},
     {u"TitanUpgrade", nullptr},
     {u"MissionFosterRelationships", nullptr},
     {u"Trigger", nullptr},

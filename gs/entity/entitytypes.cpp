@@ -6,6 +6,12 @@
 #include "gs/entity/types/fleetdef.h"
 #include "gs/entity/types/formationdef.h"
 #include "gs/entity/types/frigatedef.h"
+#include "gs/entity/types/planetmoduleorbit_hangardefensedef.h"
+#include "gs/entity/types/planetmoduleorbit_refinerydef.h"
+#include "gs/entity/types/planetmoduleorbit_shipfactorydef.h"
+#include "gs/entity/types/planetmoduleorbit_standarddef.h"
+#include "gs/entity/types/planetmoduleorbit_tradeportdef.h"
+#include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
 #include "gs/entity/types/researchsubjectdef.h"
 #include "gs/entity/types/squaddef.h"
 #include "gs/entity/types/titandef.h"
@@ -50,14 +56,14 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Planet", nullptr},
     {u"PlanetBonus", nullptr},
     {u"PlanetConnection", nullptr},
-    {u"PlanetModuleHangarDefense", nullptr},
-    {u"PlanetModuleShipFactory", nullptr},
-    {u"PlanetModuleStandard", nullptr},
-    {u"PlanetModuleTradePort", nullptr},
-    {u"PlanetModuleRefinery", nullptr},
+    {u"PlanetModuleHangarDefense", Make<PlanetModuleOrbit_HangarDefenseDef>},
+    {u"PlanetModuleShipFactory", Make<PlanetModuleOrbit_ShipFactoryDef>},
+    {u"PlanetModuleStandard", Make<PlanetModuleOrbit_StandardDef>},
+    {u"PlanetModuleTradePort", Make<PlanetModuleOrbit_TradePortDef>},
+    {u"PlanetModuleRefinery", Make<PlanetModuleOrbit_RefineryDef>},
     {u"PlanetModuleSpaceMine", nullptr},
     {u"PlanetModuleUserAbilityModule", nullptr},
-    {u"PlanetModuleWeaponDefense", nullptr},
+    {u"PlanetModuleWeaponDefense", Make<PlanetModuleOrbit_WeaponDefenseDef>},
     {u"Player", nullptr},
     {u"Quest", nullptr},
     {u"ResearchSubject", Make<ResearchSubjectDef>},

@@ -14,7 +14,10 @@
 #include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
 #include "gs/entity/types/researchsubjectdef.h"
 #include "gs/entity/types/squaddef.h"
+#include "gs/entity/types/starbasedef.h"
+#include "gs/entity/types/starbaseupgradedef.h"
 #include "gs/entity/types/titandef.h"
+#include "gs/entity/types/titanupgradedef.h"
 #include "gs/entity/types/weapondef.h"
 
 #include <array>
@@ -70,10 +73,10 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"ResourceAsteroid", nullptr},
     {u"SpaceMine", nullptr},
     {u"Star", nullptr},
-    {u"StarBase", nullptr},
-    {u"StarBaseUpgrade", nullptr},
+    {u"StarBase", Make<StarBaseDef>},
+    {u"StarBaseUpgrade", Make<StarBaseUpgradeDef>},
     {u"Titan", Make<TitanDef>},
-    {u"TitanUpgrade", nullptr},
+    {u"TitanUpgrade", Make<TitanUpgradeDef>},
     {u"MissionFosterRelationships", nullptr},
     {u"Trigger", nullptr},
     {u"MissionCaptureMinorFaction", nullptr},

@@ -2,10 +2,15 @@
 
 #include "gs/entity/types/cannonshelldef.h"
 #include "gs/entity/types/capitalshipdef.h"
+#include "gs/entity/types/cosmeticdef.h"
+#include "gs/entity/types/debrisdef.h"
+#include "gs/entity/types/empirewindownodedef.h"
+#include "gs/entity/types/entryvehicledef.h"
 #include "gs/entity/types/fighterdef.h"
 #include "gs/entity/types/fleetdef.h"
 #include "gs/entity/types/formationdef.h"
 #include "gs/entity/types/frigatedef.h"
+#include "gs/entity/types/pipclouddef.h"
 #include "gs/entity/types/planetmoduleorbit_hangardefensedef.h"
 #include "gs/entity/types/planetmoduleorbit_refinerydef.h"
 #include "gs/entity/types/planetmoduleorbit_shipfactorydef.h"
@@ -13,6 +18,8 @@
 #include "gs/entity/types/planetmoduleorbit_tradeportdef.h"
 #include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
 #include "gs/entity/types/researchsubjectdef.h"
+#include "gs/entity/types/resourceasteroiddef.h"
+#include "gs/entity/types/spaceminedef.h"
 #include "gs/entity/types/squaddef.h"
 #include "gs/entity/types/starbasedef.h"
 #include "gs/entity/types/starbaseupgradedef.h"
@@ -35,15 +42,15 @@ std::unique_ptr<EntityDef> Make() {
 constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Ability", nullptr},
     {u"Buff", nullptr},
-    {u"EmpireWindowNode", nullptr},
+    {u"EmpireWindowNode", Make<EmpireWindowNodeDef>},
     {u"Fighter", Make<FighterDef>},
     {u"Squad", Make<SquadDef>},
-    {u"Debris", nullptr},
+    {u"Debris", Make<DebrisDef>},
     {u"Weapon", Make<WeaponDef>},
     {u"CannonShell", Make<CannonShellDef>},
     {u"CapitalShip", Make<CapitalShipDef>},
-    {u"Cosmetic", nullptr},
-    {u"EntryVehicle", nullptr},
+    {u"Cosmetic", Make<CosmeticDef>},
+    {u"EntryVehicle", Make<EntryVehicleDef>},
     {u"Fleet", Make<FleetDef>},
     {u"Formation", Make<FormationDef>},
     {u"Frigate", Make<FrigateDef>},
@@ -55,7 +62,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"MissionBuildMines", nullptr},
     {u"MissionExplore", nullptr},
     {u"MissionRaid", nullptr},
-    {u"PipCloud", nullptr},
+    {u"PipCloud", Make<PipCloudDef>},
     {u"Planet", nullptr},
     {u"PlanetBonus", nullptr},
     {u"PlanetConnection", nullptr},
@@ -70,8 +77,8 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Player", nullptr},
     {u"Quest", nullptr},
     {u"ResearchSubject", Make<ResearchSubjectDef>},
-    {u"ResourceAsteroid", nullptr},
-    {u"SpaceMine", nullptr},
+    {u"ResourceAsteroid", Make<ResourceAsteroidDef>},
+    {u"SpaceMine", Make<SpaceMineDef>},
     {u"Star", nullptr},
     {u"StarBase", Make<StarBaseDef>},
     {u"StarBaseUpgrade", Make<StarBaseUpgradeDef>},

@@ -3,6 +3,8 @@
 #include "engine/archive/record.h"
 #include "engine/datastructures/fixedarray.h"
 
+#include <algorithm>
+
 namespace Vorn {
 
 // What a stage of an upgrade changes: a number for each `ValueType` and a switch for each `FlagType`. A file lists them

@@ -3,6 +3,7 @@
 #include "engine/archive/archivable.h"
 #include "engine/archive/enumtable.h"
 #include "engine/datastructures/dynamicvector.h"
+#include "engine/datastructures/fixedarray.h"
 #include "engine/datastructures/fixedvector.h"
 #include "engine/string/fixedstring.h"
 
@@ -127,6 +128,14 @@ public:
             ReadEntries(count, [&](std::int32_t) { entry(list.Append()); });
         } else {
             WriteList(countLabel, list, entry);
+        }
+    }
+
+    // A fixed array, which has no count: each element stands under a label of its own.
+    template <class T, int N, class Entry>
+    void LabelledArray(const Label (&labels)[N], FixedArray<T, N>& array, Entry entry) {
+        for (int i = 0; i < N; ++i) {
+            entry(labels[i], array[i]);
         }
     }
 

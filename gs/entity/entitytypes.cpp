@@ -1,5 +1,10 @@
 #include "gs/entity/entitytypes.h"
 
+#include "gs/entity/types/planetbonusdef.h"
+#include "gs/entity/types/planetconnectiondef.h"
+#include "gs/entity/types/planetdef.h"
+#include "gs/entity/types/stardef.h"
+
 #include <array>
 
 namespace Vorn {
@@ -36,9 +41,9 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"MissionExplore", nullptr},
     {u"MissionRaid", nullptr},
     {u"PipCloud", nullptr},
-    {u"Planet", nullptr},
-    {u"PlanetBonus", nullptr},
-    {u"PlanetConnection", nullptr},
+    {u"Planet", Make<PlanetDef>},
+    {u"PlanetBonus", Make<PlanetBonusDef>},
+    {u"PlanetConnection", Make<PlanetConnectionDef>},
     {u"PlanetModuleHangarDefense", nullptr},
     {u"PlanetModuleShipFactory", nullptr},
     {u"PlanetModuleStandard", nullptr},
@@ -52,7 +57,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"ResearchSubject", nullptr},
     {u"ResourceAsteroid", nullptr},
     {u"SpaceMine", nullptr},
-    {u"Star", nullptr},
+    {u"Star", Make<StarDef>},
     {u"StarBase", nullptr},
     {u"StarBaseUpgrade", nullptr},
     {u"Titan", nullptr},

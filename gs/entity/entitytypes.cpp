@@ -3,6 +3,7 @@
 #include "gs/entity/types/planetbonusdef.h"
 #include "gs/entity/types/planetconnectiondef.h"
 #include "gs/entity/types/planetdef.h"
+#include "gs/entity/types/playerdef.h"
 #include "gs/entity/types/stardef.h"
 
 #include <array>
@@ -52,7 +53,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"PlanetModuleSpaceMine", nullptr},
     {u"PlanetModuleUserAbilityModule", nullptr},
     {u"PlanetModuleWeaponDefense", nullptr},
-    {u"Player", nullptr},
+    {u"Player", Make<PlayerDef>},
     {u"Quest", nullptr},
     {u"ResearchSubject", nullptr},
     {u"ResourceAsteroid", nullptr},

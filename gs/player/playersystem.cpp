@@ -36,6 +36,13 @@ void NameList::Transfer(FieldIo& io, Label label, std::int32_t& index) {
     }
 }
 
+void NameList::TransferChecked(FieldIo& io, Label label, std::int32_t& index) {
+    if (io.Writing()) {
+        CheckAssert(IsIndex(index), indexCheck);
+    }
+    Transfer(io, label, index);
+}
+
 PlayerSystem::PlayerSystem() : previous(std::exchange(g_PlayerSystem, this)) {}
 
 PlayerSystem::~PlayerSystem() {

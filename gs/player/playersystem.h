@@ -9,6 +9,9 @@ class NameList {
 public:
     static constexpr std::int32_t kNone = -1;
 
+    // The text of the check that TransferChecked makes.
+    explicit NameList(const char* _indexCheck) : indexCheck(_indexCheck) {}
+
     // The index of exactly this name, which is appended if it is new; kNone for an empty one.
     std::int32_t Resolve(std::u16string_view name);
 
@@ -21,10 +24,14 @@ public:
     // outside the list is written as an empty name, and checking it is up to the record.
     void Transfer(FieldIo& io, Label label, std::int32_t& index);
 
+    // The same for a record that wants an index in the list when it is written.
+    void TransferChecked(FieldIo& io, Label label, std::int32_t& index);
+
 private:
     using Name = FixedString<256>;
 
     DynamicVector<Name> names;
+    const char* indexCheck;
 };
 
 // What is known of players while definitions are converted: the names of races and factions that they mention. Records
@@ -36,8 +43,8 @@ public:
     PlayerSystem& operator=(const PlayerSystem&) = delete;
     ~PlayerSystem();
 
-    NameList races;
-    NameList factions;
+    NameList races{"raceNameIndex > -1 && raceNameIndex < races.Size()"};
+    NameList factions{"factionNameIndex > -1 && factionNameIndex < factions.Size()"};
 
 private:
     PlayerSystem* previous;

@@ -22,7 +22,7 @@ public:
 
     FileSystem fileSystem;
     FileArchiveSystem fileArchiveSystem{fileSystem};
-    MeshSystem meshSystem;
+    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
     TextureSystem textureSystem;
 
 private:

@@ -29,6 +29,19 @@ void WriteDestination(Core& core, const Conversion& conversion, Write write) {
     }
 }
 
+// A mesh that was not found ends the process where it would be written, with the destination open.
+void ConvertMesh(Core& core, const Conversion& conversion) {
+    Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        if (mesh == nullptr) {
+            EndAbnormally();
+        }
+        archive.Write(u"MeshData", mesh->data);
+    });
+    core.meshSystem.ReleaseMesh(mesh);
+    core.meshSystem.FreeAll();
+}
+
 void ConvertBrushes(Core& core, const Conversion& conversion) {
     BrushSet brushSet(conversion.source);
     brushSet.Load(core.fileArchiveSystem);
@@ -58,6 +71,8 @@ struct ContentType {
 };
 
 constexpr ContentType kContentTypes[] = {
+    {u"mesh", ConvertMesh},
+    {u"MESH", ConvertMesh},
     {u"brushes", ConvertBrushes},
     {u"entity", ConvertEntity},
     {u"saveGame", ConvertSaveGame},

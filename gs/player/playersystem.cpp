@@ -36,17 +36,20 @@ void NameList::Transfer(FieldIo& io, Label label, std::int32_t& index) {
     }
 }
 
-void NameList::TransferChecked(FieldIo& io, Label label, std::int32_t& index) {
-    if (io.Writing()) {
-        CheckAssert(IsIndex(index), indexCheck);
-    }
-    Transfer(io, label, index);
-}
-
 PlayerSystem::PlayerSystem() : previous(std::exchange(g_PlayerSystem, this)) {}
 
 PlayerSystem::~PlayerSystem() {
     g_PlayerSystem = previous;
+}
+
+void PlayerSystem::TransferRace(FieldIo& io, Label label, std::int32_t& index) {
+    CheckAssert(io.Reading() || races.IsIndex(index), "raceNameIndex > -1 && raceNameIndex < races.Size()");
+    races.Transfer(io, label, index);
+}
+
+void PlayerSystem::TransferFaction(FieldIo& io, Label label, std::int32_t& index) {
+    CheckAssert(io.Reading() || factions.IsIndex(index), "factionNameIndex > -1 && factionNameIndex < factions.Size()");
+    factions.Transfer(io, label, index);
 }
 
 PlayerSystem& GetPlayerSystem() {

@@ -9,9 +9,6 @@ class NameList {
 public:
     static constexpr std::int32_t kNone = -1;
 
-    // The text of the check that TransferChecked makes.
-    explicit NameList(const char* _indexCheck) : indexCheck(_indexCheck) {}
-
     // The index of exactly this name, which is appended if it is new; kNone for an empty one.
     std::int32_t Resolve(std::u16string_view name);
 
@@ -24,14 +21,10 @@ public:
     // outside the list is written as an empty name, and checking it is up to the record.
     void Transfer(FieldIo& io, Label label, std::int32_t& index);
 
-    // The same for a record that wants an index in the list when it is written.
-    void TransferChecked(FieldIo& io, Label label, std::int32_t& index);
-
 private:
     using Name = FixedString<256>;
 
     DynamicVector<Name> names;
-    const char* indexCheck;
 };
 
 // What is known of players while definitions are converted: the names of races and factions that they mention. Records
@@ -43,8 +36,12 @@ public:
     PlayerSystem& operator=(const PlayerSystem&) = delete;
     ~PlayerSystem();
 
-    NameList races{"raceNameIndex > -1 && raceNameIndex < races.Size()"};
-    NameList factions{"factionNameIndex > -1 && factionNameIndex < factions.Size()"};
+    // Fields as NameList::Transfer has them, with the check that an index that is written is in its list.
+    void TransferRace(FieldIo& io, Label label, std::int32_t& index);
+    void TransferFaction(FieldIo& io, Label label, std::int32_t& index);
+
+    NameList races;
+    NameList factions;
 
 private:
     PlayerSystem* previous;

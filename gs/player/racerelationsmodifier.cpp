@@ -3,14 +3,14 @@
 namespace Vorn {
 
 void FactionRelationsModifier::Fields(FieldIo& io) {
-    GetPlayerSystem().factions.TransferChecked(io, u"factionNameID", faction);
-    GetPlayerSystem().factions.TransferChecked(io, u"otherFactionNameID", otherFaction);
+    GetPlayerSystem().TransferFaction(io, u"factionNameID", faction);
+    GetPlayerSystem().TransferFaction(io, u"otherFactionNameID", otherFaction);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
 }
 
 void RaceRelationsModifier::Fields(FieldIo& io) {
-    GetPlayerSystem().races.TransferChecked(io, u"raceNameID", race);
+    GetPlayerSystem().TransferRace(io, u"raceNameID", race);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
     io.SizedList(u"factionRelationsModCount", factionRelations,

@@ -20,7 +20,7 @@ void IPlayerDef::Fields(FieldIo& io) {
     io.String(u"playerPictureGroupName", playerPictureGroupName);
     io.SizedList(u"raceRelationsModCount", raceRelations,
                  [&](RaceRelationsModifier& modifier) { io.Record(u"raceRelationsModifier", modifier); });
-    GetPlayerSystem().factions.TransferChecked(io, u"defaultFactionNameID", defaultFaction);
+    GetPlayerSystem().TransferFaction(io, u"defaultFactionNameID", defaultFaction);
 }
 
 void IPlayerDef::NameFields(FieldIo& io) {

@@ -11,5 +11,7 @@ inline constexpr std::int32_t kArchiveVersion = 194;
 inline constexpr std::int32_t kRelationshipChangeRateVersion = 193;
 // Ships and star bases have effects of their own for a jump, in place of two sounds.
 inline constexpr std::int32_t kHyperspaceEffectsVersion = 194;
+// Players have a race type where they only told psi from others, and six more events have a sound.
+inline constexpr std::int32_t kRaceTypeVersion = 193;
 
 } // namespace Vorn

@@ -11,18 +11,23 @@
 #include "gs/entity/types/formationdef.h"
 #include "gs/entity/types/frigatedef.h"
 #include "gs/entity/types/pipclouddef.h"
+#include "gs/entity/types/planetbonusdef.h"
+#include "gs/entity/types/planetconnectiondef.h"
+#include "gs/entity/types/planetdef.h"
 #include "gs/entity/types/planetmoduleorbit_hangardefensedef.h"
 #include "gs/entity/types/planetmoduleorbit_refinerydef.h"
 #include "gs/entity/types/planetmoduleorbit_shipfactorydef.h"
 #include "gs/entity/types/planetmoduleorbit_standarddef.h"
 #include "gs/entity/types/planetmoduleorbit_tradeportdef.h"
 #include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
+#include "gs/entity/types/playerdef.h"
 #include "gs/entity/types/researchsubjectdef.h"
 #include "gs/entity/types/resourceasteroiddef.h"
 #include "gs/entity/types/spaceminedef.h"
 #include "gs/entity/types/squaddef.h"
 #include "gs/entity/types/starbasedef.h"
 #include "gs/entity/types/starbaseupgradedef.h"
+#include "gs/entity/types/stardef.h"
 #include "gs/entity/types/titandef.h"
 #include "gs/entity/types/titanupgradedef.h"
 #include "gs/entity/types/weapondef.h"
@@ -63,9 +68,9 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"MissionExplore", nullptr},
     {u"MissionRaid", nullptr},
     {u"PipCloud", Make<PipCloudDef>},
-    {u"Planet", nullptr},
-    {u"PlanetBonus", nullptr},
-    {u"PlanetConnection", nullptr},
+    {u"Planet", Make<PlanetDef>},
+    {u"PlanetBonus", Make<PlanetBonusDef>},
+    {u"PlanetConnection", Make<PlanetConnectionDef>},
     {u"PlanetModuleHangarDefense", Make<PlanetModuleOrbit_HangarDefenseDef>},
     {u"PlanetModuleShipFactory", Make<PlanetModuleOrbit_ShipFactoryDef>},
     {u"PlanetModuleStandard", Make<PlanetModuleOrbit_StandardDef>},
@@ -74,12 +79,12 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"PlanetModuleSpaceMine", nullptr},
     {u"PlanetModuleUserAbilityModule", nullptr},
     {u"PlanetModuleWeaponDefense", Make<PlanetModuleOrbit_WeaponDefenseDef>},
-    {u"Player", nullptr},
+    {u"Player", Make<PlayerDef>},
     {u"Quest", nullptr},
     {u"ResearchSubject", Make<ResearchSubjectDef>},
     {u"ResourceAsteroid", Make<ResourceAsteroidDef>},
     {u"SpaceMine", Make<SpaceMineDef>},
-    {u"Star", nullptr},
+    {u"Star", Make<StarDef>},
     {u"StarBase", Make<StarBaseDef>},
     {u"StarBaseUpgrade", Make<StarBaseUpgradeDef>},
     {u"Titan", Make<TitanDef>},

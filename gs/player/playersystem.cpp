@@ -42,6 +42,16 @@ PlayerSystem::~PlayerSystem() {
     g_PlayerSystem = previous;
 }
 
+void PlayerSystem::TransferRace(FieldIo& io, Label label, std::int32_t& index) {
+    CheckAssert(io.Reading() || races.IsIndex(index), "raceNameIndex > -1 && raceNameIndex < races.Size()");
+    races.Transfer(io, label, index);
+}
+
+void PlayerSystem::TransferFaction(FieldIo& io, Label label, std::int32_t& index) {
+    CheckAssert(io.Reading() || factions.IsIndex(index), "factionNameIndex > -1 && factionNameIndex < factions.Size()");
+    factions.Transfer(io, label, index);
+}
+
 PlayerSystem& GetPlayerSystem() {
     return *g_PlayerSystem;
 }

@@ -36,6 +36,10 @@ public:
     PlayerSystem& operator=(const PlayerSystem&) = delete;
     ~PlayerSystem();
 
+    // Fields as NameList::Transfer has them, with the check that an index that is written is in its list.
+    void TransferRace(FieldIo& io, Label label, std::int32_t& index);
+    void TransferFaction(FieldIo& io, Label label, std::int32_t& index);
+
     NameList races;
     NameList factions;
 

@@ -1,0 +1,7 @@
+#include "gs/entity/types/planetconnectiondef.h"
+
+namespace Vorn {
+
+void PlanetConnectionDef::Fields(FieldIo&) {}
+
+} // namespace Vorn

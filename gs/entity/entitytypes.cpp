@@ -1,5 +1,11 @@
 #include "gs/entity/entitytypes.h"
 
+#include "gs/entity/types/cannonshelldef.h"
+#include "gs/entity/types/fleetdef.h"
+#include "gs/entity/types/formationdef.h"
+#include "gs/entity/types/researchsubjectdef.h"
+#include "gs/entity/types/weapondef.h"
+
 #include <array>
 
 namespace Vorn {
@@ -7,7 +13,7 @@ namespace Vorn {
 namespace {
 
 template <class Definition>
-[[maybe_unused]] std::unique_ptr<EntityDef> Make() {
+std::unique_ptr<EntityDef> Make() {
     return std::make_unique<Definition>();
 }
 
@@ -19,13 +25,13 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Fighter", nullptr},
     {u"Squad", nullptr},
     {u"Debris", nullptr},
-    {u"Weapon", nullptr},
-    {u"CannonShell", nullptr},
+    {u"Weapon", Make<WeaponDef>},
+    {u"CannonShell", Make<CannonShellDef>},
     {u"CapitalShip", nullptr},
     {u"Cosmetic", nullptr},
     {u"EntryVehicle", nullptr},
-    {u"Fleet", nullptr},
-    {u"Formation", nullptr},
+    {u"Fleet", Make<FleetDef>},
+    {u"Formation", Make<FormationDef>},
     {u"Frigate", nullptr},
     {u"MissionAttackPlanet", nullptr},
     {u"MissionCaptureResources", nullptr},
@@ -49,7 +55,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"PlanetModuleWeaponDefense", nullptr},
     {u"Player", nullptr},
     {u"Quest", nullptr},
-    {u"ResearchSubject", nullptr},
+    {u"ResearchSubject", Make<ResearchSubjectDef>},
     {u"ResourceAsteroid", nullptr},
     {u"SpaceMine", nullptr},
     {u"Star", nullptr},

@@ -160,6 +160,15 @@ public:
     std::int32_t ReadCount(Label label, std::int32_t start = 0);
     void WriteCount(Label label, std::int32_t count);
 
+    // The same for both directions: what the file says, or `size`, written.
+    std::int32_t Count(Label label, std::int32_t size, std::int32_t start = 0) {
+        if (reading) {
+            return ReadCount(label, start);
+        }
+        WriteCount(label, size);
+        return size;
+    }
+
     // Calls `entry` with 0 to count - 1, and stops early once the archive is exhausted.
     template <class Entry>
     void ReadEntries(std::int32_t count, Entry entry) {

@@ -7,7 +7,7 @@ namespace Vorn {
 // A lane between two planets. It has no fields: its file says no more than its type.
 class PlanetConnectionDef : public EntityDef {
 public:
-    void Fields(FieldIo& io) override;
+    void Fields(FieldIo&) override {}
 };
 
 } // namespace Vorn

@@ -8,7 +8,7 @@ namespace Vorn {
 // The definition of a playable race.
 class PlayerDef : public EntityDef {
 public:
-    void Fields(FieldIo& io) override;
+    void Fields(FieldIo& io) override { io.Block(player); }
 
 private:
     IPlayerDef player;

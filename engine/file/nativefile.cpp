@@ -167,6 +167,16 @@ bool NativeFile::Seek(long long position) {
     return SeekTo(descriptor, position);
 }
 
+bool MakeWritable(std::u16string_view name) {
+#ifdef _WIN32
+    return _wchmod(std::wstring(name.begin(), name.end()).c_str(), _S_IREAD | _S_IWRITE) == 0;
+#else
+    const std::string path = BytesFromName(name);
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && chmod(path.c_str(), status.st_mode | S_IWUSR) == 0;
+#endif
+}
+
 bool IsExistingFile(std::u16string_view name) {
 #ifdef _WIN32
     struct _stat64 status = {};

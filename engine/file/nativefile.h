@@ -41,6 +41,9 @@ private:
     int descriptor = kNone;
 };
 
+// Takes a file's protection against writing off; false if that fails or there is no such file.
+bool MakeWritable(std::u16string_view name);
+
 // Whether a file of that name exists, links followed; a directory is none.
 bool IsExistingFile(std::u16string_view name);
 

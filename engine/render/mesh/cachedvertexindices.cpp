@@ -36,9 +36,11 @@ struct KeyGroup {
     float Vector3::*axis;
 };
 
-constexpr KeyGroup kKeyGroups[] = {{0, 4, &Vector3::z}, {4, 6, &Vector3::x}};
+constexpr KeyGroup kUpDownLeftRight = {0, 4, &Vector3::z};
+constexpr KeyGroup kFrontBack = {4, 6, &Vector3::x};
 
-std::uint32_t FacedDirections(const Vector3& normal, const KeyGroup& group) {
+template <KeyGroup group>
+std::uint32_t FacedDirections(const Vector3& normal) {
     std::uint32_t faced = 0;
     for (int i = group.firstDirection; i < group.endDirection; ++i) {
         const Vector3& axis = kDirections[i].axis;
@@ -92,18 +94,18 @@ public:
     KeySorter(Vertices _vertices, float _radius) : vertices(_vertices), radius(_radius) {}
 
     // Calls `visit` with index and faced directions.
-    template <class Visit>
-    void ForEach(const KeyGroup& group, Visit visit) {
-        const std::array<std::size_t, kBins> bins = CountBins(group);
+    template <KeyGroup group, class Visit>
+    void ForEach(Visit visit) {
+        const std::array<std::size_t, kBins> counts = AssignBins<group>();
         const std::size_t room =
-            std::max({kLeastRoom, vertices.size() / kMostSlices, *std::max_element(bins.begin(), bins.end())});
+            std::max({kLeastRoom, vertices.size() / kMostSlices, *std::max_element(counts.begin(), counts.end())});
         for (std::uint32_t bin = 0; bin < kBins;) {
             const std::uint32_t first = bin;
             std::size_t count = 0;
-            while (bin < kBins && count + bins[bin] <= room) {
-                count += bins[bin++];
+            while (bin < kBins && count + counts[bin] <= room) {
+                count += counts[bin++];
             }
-            for (const Entry entry : SortSlice(group, {first, bin}, count)) {
+            for (const Entry entry : SortSlice<group>(first, bin, count)) {
                 visit(static_cast<std::int32_t>(entry >> kIndexShift & kIndexMask),
                       static_cast<std::uint32_t>(entry & kFacedMask));
             }
@@ -112,34 +114,48 @@ public:
 
 private:
     // A bin is a range of keys by their upper bits.
-    static constexpr int kBinShift = 20;
-    static constexpr std::uint32_t kBins = 1U << (31 - kBinShift);
-    static constexpr std::size_t kLeastRoom = std::size_t{1} << 18;
-    static constexpr std::size_t kMostSlices = 8;
+    static constexpr int kBinShift = kKeyShift + 20;
+    static constexpr std::uint32_t kBins = 1U << (63 - kBinShift);
+    static constexpr std::uint16_t kNoBin = kBins;
+    static constexpr std::size_t kMostUnsliced = std::size_t{1} << 18;
+    static constexpr std::size_t kLeastRoom = std::size_t{1} << 17;
+    static constexpr std::size_t kMostSlices = 12;
     static constexpr Entry kFacedMask = (Entry{1} << kIndexShift) - 1;
     static constexpr Entry kIndexMask = (Entry{1} << (kKeyShift - kIndexShift)) - 1;
 
-    struct BinRange {
-        std::uint32_t first;
-        std::uint32_t end;
-    };
-
-    // A mesh that fits one slice needs no counts.
-    std::array<std::size_t, kBins> CountBins(const KeyGroup& group) const {
-        std::array<std::size_t, kBins> bins{};
-        if (vertices.size() <= kLeastRoom) {
-            bins[0] = vertices.size();
-            return bins;
-        }
-        for (const Mesh::Vertex& vertex : vertices) {
-            if (FacedDirections(vertex.normal, group) != 0) {
-                ++bins[KeyOf(vertex.position.*group.axis, radius) >> kBinShift];
-            }
-        }
-        return bins;
+    // 0 for a vertex that faces no direction of the group.
+    template <KeyGroup group>
+    Entry EntryOf(std::size_t i) const {
+        const Mesh::Vertex& vertex = vertices[i];
+        const Entry faced = FacedDirections<group>(vertex.normal);
+        return faced == 0 ? 0
+                          : Entry{KeyOf(vertex.position.*group.axis, radius)} << kKeyShift | i << kIndexShift | faced;
     }
 
-    std::span<const Entry> SortSlice(const KeyGroup& group, BinRange range, std::size_t room) {
+    // Notes the bin of each vertex and counts them; a mesh that is not sliced has one bin for all.
+    template <KeyGroup group>
+    std::array<std::size_t, kBins> AssignBins() {
+        std::array<std::size_t, kBins> counts{};
+        if (vertices.size() <= kMostUnsliced) {
+            counts[0] = vertices.size();
+            return counts;
+        }
+        if (bins == nullptr) {
+            bins = std::make_unique_for_overwrite<std::uint16_t[]>(vertices.size());
+        }
+        for (std::size_t i = 0; i < vertices.size(); ++i) {
+            bins[i] = kNoBin;
+            if (const Entry entry = EntryOf<group>(i); entry != 0) {
+                bins[i] = static_cast<std::uint16_t>(entry >> kBinShift);
+                ++counts[bins[i]];
+            }
+        }
+        return counts;
+    }
+
+    // At most `room` vertices are in the bins from `first` to `end`.
+    template <KeyGroup group>
+    std::span<const Entry> SortSlice(std::uint32_t first, std::uint32_t end, std::size_t room) {
         if (room > capacity) {
             capacity = room;
             entries = std::make_unique_for_overwrite<Entry[]>(room);
@@ -147,13 +163,10 @@ private:
         }
         std::size_t count = 0;
         for (std::size_t i = 0; i < vertices.size(); ++i) {
-            const std::uint32_t faced = FacedDirections(vertices[i].normal, group);
-            if (faced == 0) {
-                continue;
-            }
-            const std::uint32_t key = KeyOf(vertices[i].position.*group.axis, radius);
-            if (key >> kBinShift >= range.first && key >> kBinShift < range.end) {
-                entries[count++] = Entry{key} << kKeyShift | Entry{i} << kIndexShift | faced;
+            if (bins == nullptr || (bins[i] >= first && bins[i] < end)) {
+                const Entry entry = EntryOf<group>(i);
+                entries[count] = entry;
+                count += entry != 0 ? 1 : 0;
             }
         }
         return SortByKey({entries.get(), count}, {scratch.get(), count});
@@ -161,6 +174,7 @@ private:
 
     Vertices vertices;
     float radius;
+    std::unique_ptr<std::uint16_t[]> bins;
     std::size_t capacity = 0;
     std::unique_ptr<Entry[]> entries;
     std::unique_ptr<Entry[]> scratch;
@@ -206,13 +220,13 @@ void CacheVertexIndices(const DynamicArray<Mesh::Vertex>& vertices, float boundi
     }
     ThinnedList sinks[] = {thinned(0), thinned(1), thinned(2), thinned(3), thinned(4), thinned(5)};
     KeySorter sorter(all, boundingRadius);
-    for (const KeyGroup& group : kKeyGroups) {
-        sorter.ForEach(group, [&](std::int32_t index, std::uint32_t faced) {
-            for (; faced != 0; faced &= faced - 1) {
-                sinks[std::countr_zero(faced)].Add(index);
-            }
-        });
-    }
+    const auto addToLists = [&](std::int32_t index, std::uint32_t faced) {
+        for (; faced != 0; faced &= faced - 1) {
+            sinks[std::countr_zero(faced)].Add(index);
+        }
+    };
+    sorter.ForEach<kUpDownLeftRight>(addToLists);
+    sorter.ForEach<kFrontBack>(addToLists);
 }
 
 } // namespace Vorn

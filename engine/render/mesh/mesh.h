@@ -154,4 +154,7 @@ private:
     std::uint32_t m_AttributeTableSize = 0;
 };
 
+template <>
+inline constexpr bool kIsZeroByDefault<Mesh::Vertex> = true;
+
 } // namespace Vorn

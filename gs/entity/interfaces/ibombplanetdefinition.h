@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// How a ship bombs planets; of one that cannot only canBomb is stored. The angle variance is the same number here and in
-// files.
+// How a ship bombs planets; of one that cannot only canBomb is stored. The angle variance is the same number here and
+// in files.
 struct IBombPlanetDefinition : Record {
     Bool canBomb;
     Bool hasBombingLevels;

@@ -103,7 +103,8 @@ void CacheArchive::Player::PlayEntry(Tag tag, Archive& target) {
         isStopped = true;
         return;
     }
-    const std::u16string label = TakeText();
+    const std::u16string labelText = TakeText();
+    const Label label = std::u16string_view(labelText);
     switch (tag) {
     case Tag::RecordStart:
         return target.Write(label, ArchivableNode(*this));

@@ -66,26 +66,18 @@ void File::PrintText(std::u16string_view text) {
     CheckAssert(PutText(text), "result >= 0");
 }
 
-void File::PrintLine(int indentation, std::u16string_view text) {
+char* File::BeginLine(int indentation, std::size_t room) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
-    const auto tabs = static_cast<std::size_t>(std::max(indentation, 0));
-    if (output && tabs <= kTabs.size() && text.size() <= kTextPiece) {
-        bool written = true;
-        char* out = output->Reserve(kTabs.size() + text.size() + 2, written);
-        std::memcpy(out, kTabs.data(), kTabs.size());
-        out += tabs;
-        if (NarrowAscii(text.data(), text.size(), out)) {
-            out += text.size();
-            std::memcpy(out, "\r\n", 2);
-            output->Commit(out + 2);
-            CheckAssert(written, "result >= 0");
-            return;
-        }
+    // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
+    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
+    const int tabs = std::clamp(indentation, 0, kMaxIndentation);
+    bool written = true;
+    char* out = output->Reserve(static_cast<std::size_t>(tabs) + kTabs.size() + room, written);
+    CheckAssert(written, "result >= 0");
+    for (int put = 0; put < tabs; put += static_cast<int>(kTabs.size())) {
+        std::memcpy(out + put, kTabs.data(), kTabs.size());
     }
-    PrintText(std::u16string(tabs, u'\t'));
-    PrintText(text);
-    PrintText(u"\n");
+    return out + tabs;
 }
 
 bool File::PutText(std::u16string_view text) {

@@ -16,15 +16,18 @@ constexpr std::size_t kLongestUtf8 = 4;
 
 void LineReader::DetectEncoding() {
     encoding = Encoding::Utf8;
+    standsAtByte = true;
     input.Ensure(3);
     const std::string_view start(reinterpret_cast<const char*>(input.Cursor()), input.Available());
     if (start.starts_with("\xEF\xBB\xBF")) {
         input.Skip(3);
     } else if (start.starts_with("\xFF\xFE")) {
         encoding = Encoding::Utf16Little;
+        standsAtByte = false;
         input.Skip(2);
     } else if (start.starts_with("\xFE\xFF")) {
         encoding = Encoding::Utf16Big;
+        standsAtByte = false;
         input.Skip(2);
     }
 }
@@ -42,6 +45,7 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
     while (count < limit && unit != u'\n' && (unit = NextUnit())) {
         line[count++] = *unit;
     }
+    standsAtByte = encoding == Encoding::Utf8 && !heldBack && !lowSurrogate;
     if (count == 0) {
         return LineKind::None;
     }
@@ -52,11 +56,11 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
 
 // The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
 bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
-    if (encoding != Encoding::Utf8 || heldBack || lowSurrogate || limit <= kLineBlock) {
+    if (!StandsAtByte() || limit <= kWidenBlock) {
         return false;
     }
     input.Ensure(limit);
-    std::size_t count = WidenLine(input.Cursor(), std::min(limit - kLineBlock, input.Available()), line);
+    std::size_t count = WidenUntil(input.Cursor(), std::min(limit - kWidenBlock, input.Available()), line, '\n');
     if (count == 0) {
         return false;
     }

@@ -20,6 +20,9 @@ public:
     // `length` counts the units that can be seen.
     LineKind ReadLine(char16_t* line, int capacity, int& length);
 
+    // Whether the next unit begins with the next byte of a UTF-8 file.
+    bool StandsAtByte() const { return standsAtByte; }
+
 private:
     enum class Encoding { Unknown, Utf8, Utf16Little, Utf16Big };
 
@@ -35,6 +38,7 @@ private:
     // The unit behind a carriage return that turned out not to belong to a line end.
     std::optional<char16_t> heldBack;
     std::optional<char16_t> lowSurrogate;
+    bool standsAtByte = false;
 };
 
 } // namespace Vorn

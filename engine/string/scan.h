@@ -44,6 +44,14 @@ public:
         return *this;
     }
 
+    // Each unit of a text like Literal.
+    Scanner& Word(std::u16string_view word) {
+        for (const char16_t unit : word) {
+            Literal(unit);
+        }
+        return *this;
+    }
+
     Scanner& Int(std::int32_t& value) { return Store(ScanInt(value)); }
     Scanner& Int64(std::int64_t& value) { return Store(ScanInt64(value)); }
     Scanner& Hex(std::uint32_t& value) { return Store(ScanHex(value)); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gs/entity/entitydef.h"
+#include "gs/player/playersystem.h"
 
 #include <memory>
 
@@ -32,6 +33,8 @@ private:
     std::unique_ptr<EntityDef> CreateNamed(EntityType type, std::u16string_view path);
 
     FileArchiveSystem& archives;
+    // Definitions keep names of races and factions as indexes into its lists.
+    PlayerSystem playerSystem;
     std::uint32_t entityDefArchiveSum = 0;
 };
 

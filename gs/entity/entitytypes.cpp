@@ -1,5 +1,37 @@
 #include "gs/entity/entitytypes.h"
 
+#include "gs/entity/types/cannonshelldef.h"
+#include "gs/entity/types/capitalshipdef.h"
+#include "gs/entity/types/cosmeticdef.h"
+#include "gs/entity/types/debrisdef.h"
+#include "gs/entity/types/empirewindownodedef.h"
+#include "gs/entity/types/entryvehicledef.h"
+#include "gs/entity/types/fighterdef.h"
+#include "gs/entity/types/fleetdef.h"
+#include "gs/entity/types/formationdef.h"
+#include "gs/entity/types/frigatedef.h"
+#include "gs/entity/types/pipclouddef.h"
+#include "gs/entity/types/planetbonusdef.h"
+#include "gs/entity/types/planetconnectiondef.h"
+#include "gs/entity/types/planetdef.h"
+#include "gs/entity/types/planetmoduleorbit_hangardefensedef.h"
+#include "gs/entity/types/planetmoduleorbit_refinerydef.h"
+#include "gs/entity/types/planetmoduleorbit_shipfactorydef.h"
+#include "gs/entity/types/planetmoduleorbit_standarddef.h"
+#include "gs/entity/types/planetmoduleorbit_tradeportdef.h"
+#include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
+#include "gs/entity/types/playerdef.h"
+#include "gs/entity/types/researchsubjectdef.h"
+#include "gs/entity/types/resourceasteroiddef.h"
+#include "gs/entity/types/spaceminedef.h"
+#include "gs/entity/types/squaddef.h"
+#include "gs/entity/types/starbasedef.h"
+#include "gs/entity/types/starbaseupgradedef.h"
+#include "gs/entity/types/stardef.h"
+#include "gs/entity/types/titandef.h"
+#include "gs/entity/types/titanupgradedef.h"
+#include "gs/entity/types/weapondef.h"
+
 #include <array>
 
 namespace Vorn {
@@ -7,7 +39,7 @@ namespace Vorn {
 namespace {
 
 template <class Definition>
-[[maybe_unused]] std::unique_ptr<EntityDef> Make() {
+std::unique_ptr<EntityDef> Make() {
     return std::make_unique<Definition>();
 }
 
@@ -15,18 +47,18 @@ template <class Definition>
 constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Ability", nullptr},
     {u"Buff", nullptr},
-    {u"EmpireWindowNode", nullptr},
-    {u"Fighter", nullptr},
-    {u"Squad", nullptr},
-    {u"Debris", nullptr},
-    {u"Weapon", nullptr},
-    {u"CannonShell", nullptr},
-    {u"CapitalShip", nullptr},
-    {u"Cosmetic", nullptr},
-    {u"EntryVehicle", nullptr},
-    {u"Fleet", nullptr},
-    {u"Formation", nullptr},
-    {u"Frigate", nullptr},
+    {u"EmpireWindowNode", Make<EmpireWindowNodeDef>},
+    {u"Fighter", Make<FighterDef>},
+    {u"Squad", Make<SquadDef>},
+    {u"Debris", Make<DebrisDef>},
+    {u"Weapon", Make<WeaponDef>},
+    {u"CannonShell", Make<CannonShellDef>},
+    {u"CapitalShip", Make<CapitalShipDef>},
+    {u"Cosmetic", Make<CosmeticDef>},
+    {u"EntryVehicle", Make<EntryVehicleDef>},
+    {u"Fleet", Make<FleetDef>},
+    {u"Formation", Make<FormationDef>},
+    {u"Frigate", Make<FrigateDef>},
     {u"MissionAttackPlanet", nullptr},
     {u"MissionCaptureResources", nullptr},
     {u"MissionColonize", nullptr},
@@ -35,28 +67,28 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"MissionBuildMines", nullptr},
     {u"MissionExplore", nullptr},
     {u"MissionRaid", nullptr},
-    {u"PipCloud", nullptr},
-    {u"Planet", nullptr},
-    {u"PlanetBonus", nullptr},
-    {u"PlanetConnection", nullptr},
-    {u"PlanetModuleHangarDefense", nullptr},
-    {u"PlanetModuleShipFactory", nullptr},
-    {u"PlanetModuleStandard", nullptr},
-    {u"PlanetModuleTradePort", nullptr},
-    {u"PlanetModuleRefinery", nullptr},
+    {u"PipCloud", Make<PipCloudDef>},
+    {u"Planet", Make<PlanetDef>},
+    {u"PlanetBonus", Make<PlanetBonusDef>},
+    {u"PlanetConnection", Make<PlanetConnectionDef>},
+    {u"PlanetModuleHangarDefense", Make<PlanetModuleOrbit_HangarDefenseDef>},
+    {u"PlanetModuleShipFactory", Make<PlanetModuleOrbit_ShipFactoryDef>},
+    {u"PlanetModuleStandard", Make<PlanetModuleOrbit_StandardDef>},
+    {u"PlanetModuleTradePort", Make<PlanetModuleOrbit_TradePortDef>},
+    {u"PlanetModuleRefinery", Make<PlanetModuleOrbit_RefineryDef>},
     {u"PlanetModuleSpaceMine", nullptr},
     {u"PlanetModuleUserAbilityModule", nullptr},
-    {u"PlanetModuleWeaponDefense", nullptr},
-    {u"Player", nullptr},
+    {u"PlanetModuleWeaponDefense", Make<PlanetModuleOrbit_WeaponDefenseDef>},
+    {u"Player", Make<PlayerDef>},
     {u"Quest", nullptr},
-    {u"ResearchSubject", nullptr},
-    {u"ResourceAsteroid", nullptr},
-    {u"SpaceMine", nullptr},
-    {u"Star", nullptr},
-    {u"StarBase", nullptr},
-    {u"StarBaseUpgrade", nullptr},
-    {u"Titan", nullptr},
-    {u"TitanUpgrade", nullptr},
+    {u"ResearchSubject", Make<ResearchSubjectDef>},
+    {u"ResourceAsteroid", Make<ResourceAsteroidDef>},
+    {u"SpaceMine", Make<SpaceMineDef>},
+    {u"Star", Make<StarDef>},
+    {u"StarBase", Make<StarBaseDef>},
+    {u"StarBaseUpgrade", Make<StarBaseUpgradeDef>},
+    {u"Titan", Make<TitanDef>},
+    {u"TitanUpgrade", Make<TitanUpgradeDef>},
     {u"MissionFosterRelationships", nullptr},
     {u"Trigger", nullptr},
     {u"MissionCaptureMinorFaction", nullptr},

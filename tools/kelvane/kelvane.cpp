@@ -4,6 +4,7 @@
 #include "engine/string/utf8.h"
 #include "engine/window/brushset.h"
 #include "gs/entity/entitysystem.h"
+#include "gs/render/particle/particlesimulationdefinitionsystem.h"
 #include "tools/kelvane/savegame.h"
 
 namespace Vorn {
@@ -19,14 +20,17 @@ struct Conversion {
     FileArchiveType form;
 };
 
-// Runs `write` on the destination's archive if it opens.
+// Runs `write` on the destination's archive and returns true if it opens.
 template <class Write>
-void WriteDestination(Core& core, const Conversion& conversion, Write write) {
+bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     FileArchiveSystem& archives = core.fileArchiveSystem;
-    if (FileArchive* archive = archives.OpenForWrite(conversion.destination, false, conversion.form)) {
-        write(*archive);
-        archives.Close(archive);
+    FileArchive* archive = archives.OpenForWrite(conversion.destination, false, conversion.form);
+    if (archive == nullptr) {
+        return false;
     }
+    write(*archive);
+    archives.Close(archive);
+    return true;
 }
 
 // A mesh that was not found ends the process where it would be written, with the destination open.
@@ -61,6 +65,16 @@ void ConvertEntity(Core& core, const Conversion& conversion) {
     }
 }
 
+void ConvertParticle(Core& core, const Conversion& conversion) {
+    ParticleSimulationDefinition definition;
+    ParticleSimulationDefinitionSystem(core.fileArchiveSystem).Load(definition, conversion.source);
+    definition.StripFilePaths();
+    if (WriteDestination(core, conversion,
+                         [&](Archive& archive) { archive.Write(ParticleSimulationDefinition::kLabel, definition); })) {
+        definition.SetFileName(conversion.destination);
+    }
+}
+
 void ConvertSaveGame(Core&, const Conversion& conversion) {
     StampSaveGame(conversion.source, conversion.destination);
 }
@@ -75,6 +89,7 @@ constexpr ContentType kContentTypes[] = {
     {u"MESH", ConvertMesh},
     {u"brushes", ConvertBrushes},
     {u"entity", ConvertEntity},
+    {u"particle", ConvertParticle},
     {u"saveGame", ConvertSaveGame},
 };
 

@@ -24,9 +24,9 @@ void TextureSystem::Release(FileTexture* texture) {
 
 // Textures come in blocks, so that reading a state of a brush allocates nothing.
 void TextureSystem::AddBlock() {
-    constexpr int kBlockSize = 32;
+    constexpr std::size_t kBlockSize = 32;
     blocks.push_back(std::make_unique_for_overwrite<FileTexture[]>(kBlockSize));
-    for (int i = 0; i < kBlockSize; ++i) {
+    for (std::size_t i = 0; i < kBlockSize; ++i) {
         FileTexture& texture = blocks.back()[i];
         texture.nextFree = firstFree;
         firstFree = &texture;

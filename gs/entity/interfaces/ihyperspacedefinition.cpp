@@ -1,5 +1,7 @@
 #include "gs/entity/interfaces/ihyperspacedefinition.h"
 
+#include "engine/archive/archiveversion.h"
+
 namespace Vorn {
 
 void IHyperspaceDefinition::HyperspaceEffects::Fields(FieldIo& io) {
@@ -16,9 +18,19 @@ void IHyperspaceDefinition::HyperspaceEffects::Fields(FieldIo& io) {
 }
 
 void IHyperspaceDefinition::Fields(FieldIo& io) {
+    if (io.Before(kHyperspaceEffectsVersion)) {
+        return;
+    }
     io.Bool(u"useCustomHyperspaceEffects", useCustomHyperspaceEffects);
     if (useCustomHyperspaceEffects) {
         io.Record(u"effects", effects);
+    }
+}
+
+void IHyperspaceDefinition::OldSoundFields(FieldIo& io) {
+    if (io.Before(kHyperspaceEffectsVersion)) {
+        io.Value(u"HyperspaceChargingSoundID", effects.chargeUpEffectSoundID);
+        io.Value(u"HyperspaceTravelSoundID", effects.travelEffectSoundID);
     }
 }
 

@@ -6,7 +6,9 @@
 
 namespace Vorn {
 
-// The effects of a jump, where an entity has its own.
+// The effects of a jump, where an entity has its own. A file older than kHyperspaceEffectsVersion has none of this
+// block, but two sounds at another place, which the owner reads with OldSoundFields. Without custom effects they are
+// kept here and written nowhere.
 struct IHyperspaceDefinition : Record {
     struct HyperspaceEffects : Record {
         ParticleSimulationDefinitionRef chargeUpEffectName;
@@ -27,6 +29,7 @@ struct IHyperspaceDefinition : Record {
     HyperspaceEffects effects;
 
     void Fields(FieldIo& io) override;
+    void OldSoundFields(FieldIo& io);
 };
 
 } // namespace Vorn

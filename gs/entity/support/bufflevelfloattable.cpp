@@ -1,5 +1,7 @@
 #include "gs/entity/support/bufflevelfloattable.h"
 
+#include <algorithm>
+
 namespace Vorn {
 
 namespace {
@@ -9,6 +11,18 @@ constexpr Label kLevelLabels[BuffLevelFloatTable::kLevelCount] = {u"Level:0", u"
 void BuffLevelFloatTable::Fields(FieldIo& io) {
     for (int i = 0; i < kLevelCount; ++i) {
         io.Float(kLevelLabels[i], values[i]);
+    }
+}
+
+void LevelFloat(FieldIo& io, Label label, BuffLevelFloatTable& table, bool hasLevels) {
+    if (hasLevels) {
+        io.Record(label, table);
+        return;
+    }
+    float value = io.Reading() ? 0.0f : table.GetValueAtLevel(0);
+    io.Float(label, value);
+    if (io.Reading()) {
+        std::fill(table.values.begin(), table.values.end(), value);
     }
 }
 

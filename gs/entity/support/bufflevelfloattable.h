@@ -16,4 +16,8 @@ struct BuffLevelFloatTable : Record {
     float GetValueAtLevel(int level) const { return values[level]; }
 };
 
+// A table that a file holds as a record if there are levels, and as the one number of all levels if there are none. The
+// number is read as 0 if it is missing.
+void LevelFloat(FieldIo& io, Label label, BuffLevelFloatTable& table, bool hasLevels);
+
 } // namespace Vorn

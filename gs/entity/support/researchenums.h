@@ -294,4 +294,32 @@ inline constexpr std::u16string_view kResearchPlanetTypeRows[] = {u"Asteroid", u
 template <>
 inline constexpr EnumTable kEnumTable<ResearchPlanetType> = MakeTable("ResearchPlanetType", kResearchPlanetTypeRows);
 
+enum class AllianceType : std::int32_t { Invalid = -1 };
+
+inline constexpr std::u16string_view kAllianceTypeRows[] = {u"Trade",
+                                                            u"ExternalVision",
+                                                            u"InternalVision",
+                                                            u"CeaseFire",
+                                                            u"PeaceTreaty",
+                                                            u"ResearchPact",
+                                                            u"EfficiencyPact",
+                                                            u"AntimatterPact",
+                                                            u"ArmorPact",
+                                                            u"BeamWeaponPact",
+                                                            u"CulturePact",
+                                                            u"MetalCrystalPact",
+                                                            u"ThrusterPact",
+                                                            u"PhaseJumpPact",
+                                                            u"PlanetBombingPact",
+                                                            u"ShieldPact",
+                                                            u"MarketPact",
+                                                            u"EnergyWeaponCooldownPact",
+                                                            u"MassReductionPact",
+                                                            u"SupplyPact",
+                                                            u"TacticalSlotsPact",
+                                                            u"WeaponCooldownPact",
+                                                            u"TradeIncomePact"};
+template <>
+inline constexpr EnumTable kEnumTable<AllianceType> = MakeTable("AllianceType", kAllianceTypeRows);
+
 } // namespace Vorn

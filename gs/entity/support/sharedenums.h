@@ -52,11 +52,12 @@ inline constexpr std::u16string_view kAttackTypeRows[] = {
 template <>
 inline constexpr EnumTable kEnumTable<AttackType> = MakeTable("AttackType", kAttackTypeRows);
 
-enum class PlayerRaceType : std::int32_t { Invalid = -1 };
+enum class PlayerRaceType : std::int32_t { Invalid = -1, Tech, Psi, Phase, Other };
 
 inline constexpr std::u16string_view kPlayerRaceTypeRows[] = {u"Tech", u"Psi", u"Phase", u"Other"};
 template <>
-inline constexpr EnumTable kEnumTable<PlayerRaceType> = MakeTable("PlayerRaceType", kPlayerRaceTypeRows);
+inline constexpr EnumTable kEnumTable<PlayerRaceType> = MakeTable<PlayerRaceType::Other>("PlayerRaceType",
+                                                                                         kPlayerRaceTypeRows);
 
 enum class Resource : std::int32_t { Invalid = -1 };
 

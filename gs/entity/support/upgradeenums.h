@@ -52,4 +52,17 @@ template <>
 inline constexpr EnumTable kEnumTable<TitanUpgradePropertyType> = MakeTable("TitanUpgradePropertyType",
                                                                             kTitanUpgradePropertyTypeRows);
 
+enum class StarBaseUpgradeBoolPropertyType : std::int32_t { Invalid = -1 };
+enum class TitanUpgradeBoolPropertyType : std::int32_t { Invalid = -1 };
+
+// Two enumerations of the same rows, told apart in reports.
+inline constexpr std::u16string_view kUpgradeBoolPropertyTypeRows[] = {u"CanPreventEnemyColonize",
+                                                                       u"CanPreventPlanetLossByBombing"};
+template <>
+inline constexpr EnumTable kEnumTable<StarBaseUpgradeBoolPropertyType> = MakeTable("StarBaseUpgradeBoolPropertyType",
+                                                                                   kUpgradeBoolPropertyTypeRows);
+template <>
+inline constexpr EnumTable kEnumTable<TitanUpgradeBoolPropertyType> = MakeTable("TitanUpgradeBoolPropertyType",
+                                                                                kUpgradeBoolPropertyTypeRows);
+
 } // namespace Vorn

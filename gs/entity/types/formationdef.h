@@ -1,0 +1,13 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+namespace Vorn {
+
+// A formation has no content: its shape is not told in files.
+class FormationDef : public EntityDef {
+public:
+    void Fields(FieldIo&) override {}
+};
+
+} // namespace Vorn

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+namespace Vorn {
+
+// A lane between two planets. It has no fields: its file says no more than its type.
+class PlanetConnectionDef : public EntityDef {
+public:
+    void Fields(FieldIo&) override {}
+};
+
+} // namespace Vorn

@@ -1,0 +1,13 @@
+#include "gs/entity/types/planetmoduleorbit_hangardefensedef.h"
+
+namespace Vorn {
+
+void PlanetModuleOrbit_HangarDefenseDef::Fields(FieldIo& io) {
+    PlanetModuleOrbitDef::Fields(io);
+    io.Block(squads);
+    io.Block(weaponOwner);
+    io.Uint(u"baseCommandPoints", baseCommandPoints);
+    io.Block(attacker);
+}
+
+} // namespace Vorn

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+#include "gs/entity/interfaces/iabilitycontainerdef.h"
+#include "gs/entity/interfaces/ihuddefinition.h"
+#include "gs/entity/interfaces/iorbitbodydefinition.h"
+#include "gs/entity/interfaces/irenderdefinition.h"
+#include "gs/entity/interfaces/istardefinition.h"
+#include "gs/entity/interfaces/iuserinterfacedef.h"
+
+namespace Vorn {
+
+// A kind of star.
+class StarDef : public EntityDef {
+public:
+    void Fields(FieldIo& io) override;
+
+private:
+    IStarDefinition star;
+    IAbilityContainerDef abilities;
+    IHUDDefinition hud;
+    IUserInterfaceDef userInterface;
+    IOrbitBodyDefinition orbitBody;
+    BrushRef mainViewIcon;
+    BrushRef picture;
+    FixedString<256> meshName;
+    float maxMeshVisibilityDistanceToCamera = -1.0f;
+    IRenderDefinition render;
+};
+
+} // namespace Vorn

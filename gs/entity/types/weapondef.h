@@ -1,0 +1,13 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+namespace Vorn {
+
+// A weapon by itself has no content: weapons are told where their owners are.
+class WeaponDef : public EntityDef {
+public:
+    void Fields(FieldIo&) override {}
+};
+
+} // namespace Vorn

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "engine/core/core.h"
+#include "engine/core/reporting.h"
+#include "tests/support/tempfolder.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace Vorn {
+
+using Reports = std::vector<std::string>;
+
+// UTF-8 of a text, for messages and comparisons.
+std::string Utf8(std::u16string_view text);
+
+// The name under which a path is opened.
+std::u16string NameOf(const std::filesystem::path& path);
+
+// A check as TakeReports gives it.
+std::string Check(std::string_view expression);
+
+// A core of its own and a collector of all reports, in order. A report that no test asked for fails the test.
+class EngineTest : public testing::Test, public ReportHandler {
+protected:
+    EngineTest();
+    void TearDown() override;
+    void Handle(const char* file, int line, std::u16string_view text, bool isFailure) override;
+
+    // What was reported since the last call.
+    Reports TakeReports() { return std::exchange(reports, {}); }
+
+    std::optional<Core> core;
+
+private:
+    Reports reports;
+};
+
+// An engine test with a folder for its files.
+class FileTest : public EngineTest {
+protected:
+    std::u16string NameIn(std::string_view fileName) const { return NameOf(folder.Path() / fileName); }
+    std::u16string Put(std::string_view fileName, std::string_view bytes) const;
+
+    TempFolder folder;
+};
+
+} // namespace Vorn

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace Vorn {
+
+// A fresh folder below the system's folder for temporary files, gone again with all its content at the end.
+class TempFolder {
+public:
+    TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    ~TempFolder();
+
+    const std::filesystem::path& Path() const { return path; }
+
+private:
+    std::filesystem::path path;
+};
+
+// The bytes of a file, or nothing if it cannot be read.
+std::optional<std::string> ReadBytes(const std::filesystem::path& path);
+
+void WriteBytes(const std::filesystem::path& path, std::string_view bytes);
+
+} // namespace Vorn

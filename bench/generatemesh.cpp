@@ -87,8 +87,8 @@ void FillTriangles(Mesh::Data& data, int ringSize) {
 void FillMaterials(Mesh::Data& data, Random& random) {
     data.materials.Resize(3);
     for (Mesh::Material& material : data.materials) {
-        material.diffuseTextureFileName.Assign(u"Rock_Hull-cl.dds");
-        material.normalTextureFileName.Assign(u"Rock_Hull-nm.dds");
+        material.diffuseTextureFileName.Assign(u"asteroid_rock_color.dds");
+        material.normalTextureFileName.Assign(u"asteroid_rock_normal.dds");
         material.diffuse = material.ambient = {1.0f, 1.0f, 1.0f, 1.0f};
         material.specular = {0.5f, 0.5f, 0.5f, 1.0f};
         material.glossiness = 25.0f + 20.0f * random.Signed();
@@ -96,7 +96,7 @@ void FillMaterials(Mesh::Data& data, Random& random) {
     data.points.Resize(4);
     for (Mesh::Point& point : data.points) {
         point = Mesh::Point::Default();
-        point.name.Assign(u"Weapon-0");
+        point.name.Assign(u"GunMount");
         point.position = {400.0f * random.Signed(), 170.0f * random.Signed(), 600.0f * random.Signed()};
     }
 }

@@ -3,7 +3,10 @@
 #include "gs/entity/types/cannonshelldef.h"
 #include "gs/entity/types/fleetdef.h"
 #include "gs/entity/types/formationdef.h"
+#include "gs/entity/types/missiondefs.h"
+#include "gs/entity/types/questdef.h"
 #include "gs/entity/types/researchsubjectdef.h"
+#include "gs/entity/types/triggerdef.h"
 #include "gs/entity/types/weapondef.h"
 
 #include <array>
@@ -33,14 +36,14 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Fleet", Make<FleetDef>},
     {u"Formation", Make<FormationDef>},
     {u"Frigate", nullptr},
-    {u"MissionAttackPlanet", nullptr},
-    {u"MissionCaptureResources", nullptr},
-    {u"MissionColonize", nullptr},
-    {u"MissionDefendFlagship", nullptr},
-    {u"MissionBuildStarBase", nullptr},
-    {u"MissionBuildMines", nullptr},
-    {u"MissionExplore", nullptr},
-    {u"MissionRaid", nullptr},
+    {u"MissionAttackPlanet", Make<Mission_AttackPlanetDef>},
+    {u"MissionCaptureResources", Make<Mission_CaptureResourcesDef>},
+    {u"MissionColonize", Make<Mission_ColonizeDef>},
+    {u"MissionDefendFlagship", Make<Mission_DefendFlagshipDef>},
+    {u"MissionBuildStarBase", Make<Mission_BuildStarBaseDef>},
+    {u"MissionBuildMines", Make<Mission_BuildMinesDef>},
+    {u"MissionExplore", Make<Mission_ExploreDef>},
+    {u"MissionRaid", Make<Mission_RaidDef>},
     {u"PipCloud", nullptr},
     {u"Planet", nullptr},
     {u"PlanetBonus", nullptr},
@@ -54,7 +57,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"PlanetModuleUserAbilityModule", nullptr},
     {u"PlanetModuleWeaponDefense", nullptr},
     {u"Player", nullptr},
-    {u"Quest", nullptr},
+    {u"Quest", Make<QuestDef>},
     {u"ResearchSubject", Make<ResearchSubjectDef>},
     {u"ResourceAsteroid", nullptr},
     {u"SpaceMine", nullptr},
@@ -63,9 +66,9 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"StarBaseUpgrade", nullptr},
     {u"Titan", nullptr},
     {u"TitanUpgrade", nullptr},
-    {u"MissionFosterRelationships", nullptr},
-    {u"Trigger", nullptr},
-    {u"MissionCaptureMinorFaction", nullptr},
+    {u"MissionFosterRelationships", Make<Mission_FosterRelationshipsDef>},
+    {u"Trigger", Make<TriggerDef>},
+    {u"MissionCaptureMinorFaction", Make<Mission_CaptureMinorFactionDef>},
 };
 
 constexpr auto kEntityTypeTexts = [] {

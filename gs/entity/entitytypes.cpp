@@ -1,5 +1,6 @@
 #include "gs/entity/entitytypes.h"
 
+#include "gs/entity/types/abilitydef.h"
 #include "gs/entity/types/buffdef.h"
 #include "gs/entity/types/cannonshelldef.h"
 #include "gs/entity/types/fleetdef.h"
@@ -23,7 +24,7 @@ std::unique_ptr<EntityDef> Make() {
 
 // The order is kept for good: other tables number the types by it.
 constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
-    {u"Ability", nullptr},
+    {u"Ability", Make<AbilityDef>},
     {u"Buff", Make<BuffDef>},
     {u"EmpireWindowNode", nullptr},
     {u"Fighter", nullptr},

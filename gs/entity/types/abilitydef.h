@@ -1,0 +1,22 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+#include "gs/entity/interfaces/iabilitydef.h"
+#include "gs/entity/interfaces/ihuddefinition.h"
+
+namespace Vorn {
+
+// Something that a ship or a structure can do beyond shooting.
+class AbilityDef : public EntityDef {
+public:
+    void Fields(FieldIo& io) override {
+        io.Block(ability);
+        io.Block(hud);
+    }
+
+private:
+    IAbilityDef ability;
+    IHUDDefinition hud;
+};
+
+} // namespace Vorn

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+namespace Vorn {
+
+// A trigger has no content: its file tells that it is there.
+class TriggerDef : public EntityDef {
+public:
+    void Fields(FieldIo&) override {}
+};
+
+} // namespace Vorn

@@ -18,8 +18,16 @@ namespace Vorn {
 class Archivable;
 class SingleLineArchivable;
 
-// A field's key. Binary forms ignore it, also an empty one.
-using Label = std::u16string_view;
+// A field's key. Binary forms ignore it, also a null one.
+class Label : public std::u16string_view {
+public:
+    constexpr Label() = default;
+    constexpr Label(std::u16string_view text) : std::u16string_view(text) {}
+
+    // A literal, whose length costs nothing at run time.
+    template <std::size_t N>
+    consteval Label(const char16_t (&text)[N]) : std::u16string_view(text, N - 1) {}
+};
 
 // The one interface between records and files. A record calls it for every field, in a fixed order; the same calls read
 // or write every file form. A read that finds nothing reports it and leaves its destination untouched; nothing throws.

@@ -1,63 +1,22 @@
 #pragma once
 
-#include "engine/archive/filearchive.h"
+#include "engine/archive/bytefilearchive.h"
 
 namespace Vorn {
 
-// The shipping form: the values alone, little-endian, with no label, tag, length or padding between them. Behind the
-// end of a file every scalar is reported and keeps its value.
-class BinaryFileArchive final : public FileArchive {
+// The bytes of an open file.
+struct FileBytes {
+    File* file;
+
+    int Take(void* elements, int elementSize, int count) { return file->TryRead(elements, elementSize, count); }
+    void Put(const void* elements, int elementSize, int count) { file->Write(elements, elementSize, count); }
+    void ReportShort(int count, int result) { file->ReportShortRead(count, result); }
+};
+
+// The shipping form in a file.
+class BinaryFileArchive final : public ByteFileArchive<FileBytes> {
 public:
-    using Archive::Read;
-    using Archive::Write;
-    using FileArchive::FileArchive;
-
-    void Read(Label label, Color& value) override;
-    void Read(Label label, Rectangle& value) override;
-    void Read(Label label, Size& value) override;
-    void Read(Label label, Point& value) override;
-    void Read(Label label, Quad& value) override;
-    void Read(Label label, Matrix44& value) override;
-    void Read(Label label, Matrix33& value) override;
-    void Read(Label label, Vector3& value) override;
-    void Read(Label label, char16_t* buffer, int bufferSize) override;
-    void Read(Label label, std::int64_t& value) override;
-    void Read(Label label, Bool& value) override;
-    void Read(Label label, double& value) override;
-    void Read(Label label, float& value) override;
-    void Read(Label label, std::int32_t& value) override;
-    void Read(Label label, std::uint32_t& value) override;
-    void Read(Label label, SingleLineArchivable& value) override;
-    void Read(Label label, Archivable& value, std::int32_t version) override;
-    void Read(Label label, Archivable& value) override;
-
-    void Write(Label label, const Color& value) override;
-    void Write(Label label, const Rectangle& value) override;
-    void Write(Label label, const Size& value) override;
-    void Write(Label label, const Point& value) override;
-    void Write(Label label, const Quad& value) override;
-    void Write(Label label, const Matrix44& value) override;
-    void Write(Label label, const Matrix33& value) override;
-    void Write(Label label, const Vector3& value) override;
-    void Write(Label label, const char16_t* text, int bufferSize) override;
-    void Write(Label label, const std::int64_t& value) override;
-    void Write(Label label, const Bool& value) override;
-    void Write(Label label, const double& value) override;
-    void Write(Label label, const float& value) override;
-    void Write(Label label, const std::int32_t& value) override;
-    void Write(Label label, const std::uint32_t& value) override;
-    void Write(Label label, const SingleLineArchivable& value) override;
-    void Write(Label label, const Archivable& value) override;
-
-private:
-    template <class Bits>
-    bool ReadBits(Bits& bits);
-    template <class Bits>
-    void WriteBits(Bits bits);
-    void ReadFloat(float& value);
-    void ReadInt(std::int32_t& value);
-    int ReadUnits(char16_t* units, int count);
-    int SkipUnits(int count);
+    BinaryFileArchive(File* _file, bool _hasFloatBits) : ByteFileArchive(_file, _hasFloatBits, FileBytes{_file}) {}
 };
 
 } // namespace Vorn

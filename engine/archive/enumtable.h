@@ -33,6 +33,18 @@ constexpr EnumTable MakeTable(const char* typeName, const std::u16string_view (&
     return {typeName, rows, static_cast<std::int32_t>(N)};
 }
 
+// The number of a row, found while compiling, for the few of a long table that the program tests; an unknown text does
+// not compile.
+template <class Enum>
+consteval std::int32_t RowNumber(std::u16string_view text) {
+    const EnumTable& table = kEnumTable<Enum>;
+    std::int32_t row = 0;
+    while (table.rows[row] != text) {
+        ++row;
+    }
+    return row;
+}
+
 // A value that is no row fires the check "false" and has no text (null).
 std::u16string_view EnumToText(std::int32_t value, const EnumTable& table);
 

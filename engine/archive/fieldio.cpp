@@ -6,8 +6,13 @@
 namespace Vorn {
 
 namespace {
+
 using EnumText = FixedString<256>;
-}
+
+constexpr float kRadiansPerDegree = 0.017453292f;
+constexpr float kDegreesPerRadian = 57.295776f;
+
+} // namespace
 
 void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& table) {
     EnumText text;
@@ -20,6 +25,16 @@ void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& tabl
     CheckAssert(row.data() != nullptr, "s != NULL");
     text.Assign(row);
     String(label, text);
+}
+
+void FieldIo::Degrees(Label label, float& radians) {
+    if (reading) {
+        float degrees = 0.0f;
+        archive.Read(label, degrees);
+        radians = degrees * kRadiansPerDegree;
+    } else {
+        archive.Write(label, radians * kDegreesPerRadian);
+    }
 }
 
 void FieldIo::Block(class Record& block) {

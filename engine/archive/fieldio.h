@@ -2,9 +2,13 @@
 
 #include "engine/archive/archivable.h"
 #include "engine/archive/enumtable.h"
+#include "engine/datastructures/dynamicarray.h"
 #include "engine/datastructures/dynamicvector.h"
+#include "engine/datastructures/fixedarray.h"
 #include "engine/datastructures/fixedvector.h"
 #include "engine/string/fixedstring.h"
+
+#include <algorithm>
 
 namespace Vorn {
 
@@ -65,6 +69,10 @@ public:
     }
     void EnumNumber(Label label, std::int32_t& value, const EnumTable& table);
 
+    // An angle in radians that every file holds in degrees, converted in 32 bits both ways. The two factors are not
+    // exact inverses, so a conversion may change the last bits. A missing angle is 0.
+    void Degrees(Label label, float& radians);
+
     // A nested group of fields under a label of its own.
     void Record(Label label, Archivable& value) { Transfer(label, value); }
 
@@ -77,8 +85,8 @@ public:
 
     // Keeps as many elements as the list has room for. The surplus is reported once, ahead of the elements, and is
     // read and dropped, so that the fields behind it line up.
-    template <class T, int N, class Entry>
-    void BoundedList(Label countLabel, FixedVector<T, N>& list, Entry entry) {
+    template <template <class, int> class List, class T, int N, class Entry>
+    void BoundedList(Label countLabel, List<T, N>& list, Entry entry) {
         if (reading) {
             const std::int32_t count = ReadCount(countLabel);
             if (count > N) {
@@ -126,9 +134,40 @@ public:
         }
     }
 
+    // An array that is sized at once and keeps its size, however few elements the file holds. A missing or negative
+    // count fires "newSize >= 0" and leaves the array empty. Room beyond kMaxListBytes ends the process.
+    template <class T, class Entry>
+    void SizedList(Label countLabel, DynamicArray<T>& array, Entry entry) {
+        if (reading) {
+            const std::int32_t count = ReadCount(countLabel, -1);
+            CheckAssert(count >= 0, "newSize >= 0");
+            array.Resize(std::max(count, 0));
+            ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
+        } else {
+            WriteList(countLabel, array, entry);
+        }
+    }
+
+    // A fixed array, which has no count: each element stands under a label of its own.
+    template <class T, int N, class Entry>
+    void LabelledArray(const Label (&labels)[N], FixedArray<T, N>& array, Entry entry) {
+        for (int i = 0; i < N; ++i) {
+            entry(labels[i], array[i]);
+        }
+    }
+
     // Reads the count of a list that has rules of its own.
     std::int32_t ReadCount(Label label, std::int32_t start = 0);
     void WriteCount(Label label, std::int32_t count);
+
+    // The same for both directions: what the file says, or `size`, written.
+    std::int32_t Count(Label label, std::int32_t size, std::int32_t start = 0) {
+        if (reading) {
+            return ReadCount(label, start);
+        }
+        WriteCount(label, size);
+        return size;
+    }
 
     // Calls `entry` with 0 to count - 1, and stops early once the archive is exhausted.
     template <class Entry>
@@ -148,8 +187,8 @@ private:
         }
     }
 
-    template <class T, int N, class Entry, class OnSurplus>
-    void ReadLimited(std::int32_t count, FixedVector<T, N>& list, Entry entry, OnSurplus onSurplus) {
+    template <template <class, int> class List, class T, int N, class Entry, class OnSurplus>
+    void ReadLimited(std::int32_t count, List<T, N>& list, Entry entry, OnSurplus onSurplus) {
         list.Clear();
         ReadEntries(count, [&](std::int32_t i) {
             if (i < N) {

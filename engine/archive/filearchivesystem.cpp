@@ -2,6 +2,7 @@
 
 #include "engine/archive/archiveversion.h"
 #include "engine/archive/binaryfilearchive.h"
+#include "engine/archive/steamfilearchive.h"
 #include "engine/archive/textfilearchive.h"
 #include "engine/core/reporting.h"
 
@@ -52,6 +53,9 @@ FileArchive* FileArchiveSystem::OpenForRead(std::u16string_view fileName, bool h
 }
 
 FileArchive* FileArchiveSystem::OpenForWrite(std::u16string_view fileName, bool hasFloatBits, FileArchiveType type) {
+    if (type == FileArchiveType::Steam) {
+        return Create(nullptr, type, hasFloatBits);
+    }
     File* file = fileSystem.Open(fileName, FileAccess::Write, TranslationOf(type));
     if (file == nullptr) {
         return nullptr;
@@ -87,6 +91,11 @@ FileArchive* FileArchiveSystem::Create(File* file, FileArchiveType type, bool ha
         return new TextFileArchive(file, hasFloatBits);
     case FileArchiveType::Binary:
         return new BinaryFileArchive(file, hasFloatBits);
+    case FileArchiveType::Steam:
+        if (remoteStorage != nullptr) {
+            return new SteamFileArchive(*remoteStorage, hasFloatBits);
+        }
+        [[fallthrough]];
     default:
         CheckAssert(false, "false");
         return nullptr;

@@ -5,6 +5,8 @@
 
 namespace Vorn {
 
+class RemoteStorage;
+
 // The one place where a file becomes an archive: it tells a file's form, skips or writes the header and handles the
 // version. A loader names only a path, so that text and binary files stand for each other everywhere.
 class FileArchiveSystem {
@@ -17,7 +19,8 @@ public:
     // Null, after a report, for a file that is neither form. A file that cannot be opened ends the process abnormally.
     FileArchive* OpenForRead(std::u16string_view fileName, bool hasFloatBits);
 
-    // Null, after a report, if the file cannot be opened.
+    // Null, after a report, if the file cannot be opened. The Steam form has no file, header or version: it lies in the
+    // remote storage, and null comes back where none was set.
     FileArchive* OpenForWrite(std::u16string_view fileName, bool hasFloatBits, FileArchiveType type);
 
     // Closes the file, destroys the archive and clears the pointer; does nothing on null.
@@ -25,6 +28,9 @@ public:
 
     // Close for an archive that has no file.
     void Destroy(FileArchive*& archive);
+
+    // The storage behind archives of the Steam form, not owned.
+    void SetRemoteStorage(RemoteStorage* storage) { remoteStorage = storage; }
 
     // Makes and counts the archive of a file that stands behind its header; null for an unknown type.
     FileArchive* Create(File* file, FileArchiveType type, bool hasFloatBits);
@@ -39,6 +45,7 @@ private:
     static void WriteHeader(File* file, FileArchiveType type);
 
     FileSystem& fileSystem;
+    RemoteStorage* remoteStorage = nullptr;
     std::int32_t fileArchiveCount = 0;
 };
 

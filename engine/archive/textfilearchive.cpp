@@ -1,11 +1,14 @@
 #include "engine/archive/textfilearchive.h"
 
 #include "engine/archive/checksum.h"
+#include "engine/archive/textline.h"
 #include "engine/core/reporting.h"
-#include "engine/string/numbertext.h"
+#include "engine/string/ascii.h"
+#include "engine/string/plainscan.h"
 #include "engine/string/scan.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 
 namespace Vorn {
@@ -22,80 +25,107 @@ constexpr const char* kResultChecks[] = {"",
                                          "result == 7",
                                          "result == 8"};
 
-void CheckResult(const Scanner& scanner, int expected) {
-    CheckAssert(scanner.Stored() == expected, kResultChecks[expected]);
+constexpr int kNoLabel = -1;
+
+// Whether there was a label; a scan behind it that stored another number of fields fires its check.
+bool CheckResult(int stored, int expected) {
+    if (stored != kNoLabel) {
+        CheckAssert(stored == expected, kResultChecks[expected]);
+    }
+    return stored != kNoLabel;
 }
 
-Scanner& Literals(Scanner& scanner, std::u16string_view units) {
-    for (const char16_t unit : units) {
-        scanner.Literal(unit);
+// The forms of values, for both kinds of scanner.
+struct PointForm {
+    template <class AnyScanner>
+    static void Scan(AnyScanner& scanner, Point& value) {
+        scanner.Literal(u'[').Blank().Int(value.x).Blank().Literal(u',').Blank().Int(value.y).Blank().Literal(u']');
     }
-    return scanner;
-}
+};
+
+struct Extent {
+    std::int32_t x = -1;
+    std::int32_t y = -1;
+    std::int32_t width = -1;
+    std::int32_t height = -1;
+};
+
+struct ExtentForm {
+    template <class AnyScanner>
+    static void Scan(AnyScanner& scanner, Extent& value) {
+        scanner.Literal(u'[').Blank().Int(value.x).Blank().Literal(u',').Blank().Int(value.y).Blank().Literal(u',');
+        scanner.Blank().Int(value.width).Blank().Literal(u',').Blank().Int(value.height).Blank().Literal(u']');
+    }
+};
+
+struct IntForm {
+    template <class AnyScanner>
+    static void Scan(AnyScanner& scanner, std::int32_t& value) {
+        scanner.Int(value);
+    }
+};
+
+struct HexForm {
+    template <class AnyScanner>
+    static void Scan(AnyScanner& scanner, std::uint32_t& value) {
+        scanner.Hex(value);
+    }
+};
+
+struct FloatForm {
+    template <class AnyScanner>
+    static void Scan(AnyScanner& scanner, float& value) {
+        scanner.Float(value);
+    }
+};
+
+template <std::size_t N>
+using Floats = std::array<float, N>;
+
+// A Vector3, a Quad and a matrix row.
+struct FloatsForm {
+    template <class AnyScanner, std::size_t N>
+    static void Scan(AnyScanner& scanner, Floats<N>& values) {
+        scanner.Literal(u'[');
+        for (float& value : values) {
+            scanner.Blank().Float(value);
+        }
+        scanner.Blank().Literal(u']');
+    }
+};
 
 std::int32_t BitsOf(float value) {
     return std::bit_cast<std::int32_t>(value);
 }
 
-} // namespace
-
-// A line on its way to the file. The room behind the capacity takes any number whole, so that only texts have to look
-// at the limit; what stands behind it is cut at the end.
-class TextFileArchive::Line {
-public:
-    explicit Line(Label label) { Text(label); }
-    Line(const Line&) = delete;
-    Line& operator=(const Line&) = delete;
-
-    Line& Text(std::u16string_view text) {
-        const auto room = static_cast<std::size_t>(units + kLimit + 1 - Clamped());
-        const std::size_t count = std::min(text.size(), room);
-        std::char_traits<char16_t>::copy(cursor, text.data(), count);
-        cursor += count;
-        return *this;
+// The same with the bits behind them, which replace the decimals.
+template <std::size_t N>
+void ScanFloatBits(Scanner& scanner, Floats<N>& values) {
+    Floats<N> decimals{};
+    FloatsForm::Scan(scanner.Blank(), decimals);
+    scanner.Blank().Word(u"Bits=[");
+    for (float& value : values) {
+        std::int32_t bits = BitsOf(value);
+        scanner.Blank().Int(bits).Blank().Literal(&value != &values.back() ? u',' : u']');
+        value = std::bit_cast<float>(bits);
     }
-    Line& Int(std::int32_t value) { return Put(PutInt(Clamped(), value)); }
-    Line& Int64(std::int64_t value) { return Put(PutInt64(Clamped(), value)); }
-    Line& Hex(std::uint32_t value) { return Put(PutHex(Clamped(), value)); }
-    Line& Float(float value) { return Put(PutFixed6(Clamped(), value)); }
-    Line& Double(double value, int places = 6) { return Put(PutFixed(Clamped(), value, places)); }
-
-    // The finished line, cut at the capacity with its check.
-    std::u16string_view View() const {
-        const auto length = static_cast<std::size_t>(cursor - units);
-        CheckAssert(length <= kLimit, "! FAILED( hr )");
-        return {units, std::min(length, kLimit)};
-    }
-
-private:
-    static constexpr std::size_t kLimit = kLineCapacity - 1;
-
-    // One unit over the limit is enough to know that the line is to be cut.
-    char16_t* Clamped() {
-        cursor = std::min(cursor, units + kLimit + 1);
-        return cursor;
-    }
-    Line& Put(char16_t* end) {
-        cursor = end;
-        return *this;
-    }
-
-    char16_t units[kLineCapacity + kNumberTextCapacity];
-    char16_t* cursor = units;
-};
-
-void TextFileArchive::Put(const Line& line) {
-    file->PrintLine(m_TabDepth, line.View());
 }
+
+} // namespace
 
 // Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
 void TextFileArchive::TakeLine() {
-    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer());
+    KeepPlainLine();
+    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
     if (!isFresh) {
         CountIdleRead();
     }
     ++lineNumber;
     m_CurrentLineUnread = false;
+}
+
+std::u16string_view TextFileArchive::RestOfLine(const char16_t* text) const {
+    return {text, static_cast<std::size_t>(currentLine.Units() + currentLineLength - text)};
 }
 
 // The value behind the label of the next line, or null after a report.
@@ -122,72 +152,127 @@ void TextFileArchive::ReportMissingQuote(Label label) const {
                   file->GetName(), lineNumber, currentLine);
 }
 
-// The form of a Vector3, a Quad and a matrix row. The bits, where the archive has them, replace the decimals.
-template <int N>
-void TextFileArchive::ReadFloats(const char16_t* text, float* const (&values)[N]) {
-    Scanner scanner(text);
-    scanner.Blank().Literal(u'[');
-    if (hasFloatBits) {
-        float decimals = 0.0f;
-        for (int i = 0; i < N; ++i) {
-            scanner.Float(decimals);
-        }
-        Literals(Literals(scanner.Blank(), u"]").Blank(), u"Bits=[");
-        for (int i = 0; i < N; ++i) {
-            std::int32_t bits = BitsOf(*values[i]);
-            scanner.Blank().Int(bits).Blank().Literal(i + 1 < N ? u',' : u']');
-            *values[i] = std::bit_cast<float>(bits);
-        }
-    } else {
-        for (float* value : values) {
-            scanner.Float(*value);
-        }
+// Takes a line whole from the file's bytes if it has the label and behind it what `scan` takes, all in the form that
+// this class writes. Says false and takes nothing for every other line, which then goes the general road.
+template <class Scan>
+bool TextFileArchive::TakePlain(Label label, Scan scan) {
+    const char* start = m_CurrentLineUnread ? nullptr : file->PeekText();
+    if (start == nullptr) {
+        return false;
     }
-    CheckResult(scanner, hasFloatBits ? 2 * N : N);
-    for (const float* value : values) {
-        checkSum += FloatCheckSum(*value);
+    PlainScanner scanner(start);
+    scan(scanner.Tabs().Word(label));
+    const std::ptrdiff_t length = scanner.LineEnd().Cursor() - start;
+    if (!scanner.IsGood() || length >= kLineCapacity) {
+        return false;
+    }
+    file->SkipText(static_cast<std::size_t>(length));
+    plainLine = {start, static_cast<std::size_t>(length)};
+    ++lineNumber;
+    return true;
+}
+
+// The line that was taken last becomes the current one, as if it had come by the general road.
+void TextFileArchive::KeepPlainLine() {
+    if (plainLine.empty()) {
+        return;
+    }
+    plainLine.remove_suffix(plainLine.ends_with("\r\n") ? 2 : 1);
+    char16_t* units = currentLine.Buffer().m_Buffer;
+    char16_t* end = std::copy(plainLine.begin(), plainLine.end(), units);
+    *end++ = u'\n';
+    *end = u'\0';
+    currentLineLength = static_cast<int>(end - units);
+    plainLine = {};
+}
+
+// Reads a value by its form and returns how many fields were stored, or kNoLabel.
+template <class Form, class Value>
+int TextFileArchive::ReadForm(Label label, Value& value, int fields) {
+    Value plain = value;
+    if (TakePlain(label, [&](PlainScanner& scanner) { Form::Scan(scanner.Blank(), plain); })) {
+        value = plain;
+        return fields;
+    }
+    const char16_t* text = FindLabel(label);
+    if (text == nullptr) {
+        return kNoLabel;
+    }
+    Scanner scanner(RestOfLine(text));
+    Form::Scan(scanner, value);
+    return scanner.Stored();
+}
+
+template <class... Reals>
+void TextFileArchive::ReadFloats(Label label, Reals&... reals) {
+    constexpr int kCount = sizeof...(reals);
+    Floats<kCount> values = {reals...};
+    bool found = true;
+    if (!hasFloatBits) {
+        found = CheckResult(ReadForm<FloatsForm>(label, values, kCount), kCount);
+    } else if (const char16_t* text = FindLabel(label)) {
+        Scanner scanner(RestOfLine(text));
+        ScanFloatBits(scanner, values);
+        CheckResult(scanner.Stored(), 2 * kCount);
+    } else {
+        found = false;
+    }
+    if (found) {
+        const float* next = values.data();
+        ((reals = *next++, checkSum += FloatCheckSum(reals)), ...);
+    }
+}
+
+template <class... Ints>
+void TextFileArchive::AddInts(Ints... ints) {
+    checkSum += (static_cast<std::uint32_t>(ints) + ...);
+}
+
+// A row takes a line of its own, whatever stands there.
+template <int N>
+void TextFileArchive::ReadRow(float (&row)[N]) {
+    TakeLine();
+    Scanner scanner({currentLine.Units(), static_cast<std::size_t>(currentLineLength)});
+    Floats<N> values;
+    std::copy_n(row, N, values.begin());
+    if (hasFloatBits) {
+        ScanFloatBits(scanner, values);
+    } else {
+        FloatsForm::Scan(scanner.Blank(), values);
+    }
+    CheckResult(scanner.Stored(), hasFloatBits ? 2 * N : N);
+    for (int i = 0; i < N; ++i) {
+        row[i] = values[static_cast<std::size_t>(i)];
+        checkSum += FloatCheckSum(row[i]);
     }
 }
 
 template <int N>
 void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
-    if (FindLabel(label) == nullptr) {
-        return;
-    }
-    for (float(&row)[N] : rows) {
-        TakeLine();
-        if constexpr (N == 3) {
-            ReadFloats(currentLine.Units(), {&row[0], &row[1], &row[2]});
-        } else {
-            ReadFloats(currentLine.Units(), {&row[0], &row[1], &row[2], &row[3]});
+    if (FindRecord(label)) {
+        for (float(&row)[N] : rows) {
+            ReadRow(row);
         }
     }
 }
 
+// The line of a label alone.
+bool TextFileArchive::FindRecord(Label label) {
+    return TakePlain(label, [](PlainScanner&) {}) || FindLabel(label) != nullptr;
+}
+
 void TextFileArchive::Read(Label label, Color& value) {
-    const char16_t* text = FindLabel(label);
     std::uint32_t packed = 0;
-    if (text != nullptr && Scanner(text).Hex(packed).Stored() == 1) {
+    if (ReadForm<HexForm>(label, packed, 1) == 1) {
         value = Color::FromUInt(packed);
     }
 }
 
 void TextFileArchive::Read(Label label, Rectangle& value) {
-    const char16_t* text = FindLabel(label);
-    if (text == nullptr) {
-        return;
-    }
-    std::int32_t x = -1;
-    std::int32_t y = -1;
-    std::int32_t width = -1;
-    std::int32_t height = -1;
-    Scanner scanner(text);
-    scanner.Literal(u'[').Int(x).Blank().Literal(u',').Int(y).Blank().Literal(u',').Int(width).Blank().Literal(u',');
-    scanner.Int(height);
-    CheckResult(scanner, 4);
-    value = Rectangle::FromExtent(x, y, width, height);
-    for (const std::int32_t edge : {value.left, value.right, value.bottom, value.top}) {
-        checkSum += static_cast<std::uint32_t>(edge);
+    Extent extent;
+    if (CheckResult(ReadForm<ExtentForm>(label, extent, 4), 4)) {
+        value = Rectangle::FromExtent(extent.x, extent.y, extent.width, extent.height);
+        AddInts(value.left, value.right, value.bottom, value.top);
     }
 }
 
@@ -198,20 +283,13 @@ void TextFileArchive::Read(Label label, Size& value) {
 }
 
 void TextFileArchive::Read(Label label, Point& value) {
-    const char16_t* text = FindLabel(label);
-    if (text == nullptr) {
-        return;
+    if (CheckResult(ReadForm<PointForm>(label, value, 2), 2)) {
+        AddInts(value.x, value.y);
     }
-    Scanner scanner(text);
-    scanner.Literal(u'[').Int(value.x).Blank().Literal(u',').Int(value.y);
-    CheckResult(scanner, 2);
-    checkSum += static_cast<std::uint32_t>(value.x) + static_cast<std::uint32_t>(value.y);
 }
 
 void TextFileArchive::Read(Label label, Quad& value) {
-    if (const char16_t* text = FindLabel(label)) {
-        ReadFloats(text, {&value.x, &value.y, &value.z, &value.w});
-    }
+    ReadFloats(label, value.x, value.y, value.z, value.w);
 }
 
 void TextFileArchive::Read(Label label, Matrix44& value) {
@@ -223,40 +301,41 @@ void TextFileArchive::Read(Label label, Matrix33& value) {
 }
 
 void TextFileArchive::Read(Label label, Vector3& value) {
-    if (const char16_t* text = FindLabel(label)) {
-        ReadFloats(text, {&value.x, &value.y, &value.z});
-    }
+    ReadFloats(label, value.x, value.y, value.z);
 }
 
 void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
+    if (TakePlain(label, [&](PlainScanner& scanner) { scanner.Blank().Quoted(buffer, bufferSize); })) {
+        return;
+    }
     const char16_t* text = FindLabel(label);
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view value(text);
-    const std::size_t opening = value.find(u'"');
+    const char16_t* end = currentLine.Units() + currentLineLength;
+    const char16_t* opening = FindUnit(text, end, u'"');
     buffer[0] = u'\0';
-    if (opening == std::u16string_view::npos) {
+    if (opening == end) {
         ReportMissingQuote(label);
         return;
     }
-    const std::u16string_view quoted = value.substr(opening + 1);
-    const std::size_t closing = quoted.find(u'"');
-    const int length = static_cast<int>(std::min(closing, quoted.size()));
+    const char16_t* quoted = opening + 1;
+    const char16_t* closing = FindUnit(quoted, end, u'"');
+    const int length = static_cast<int>(closing - quoted);
     for (int numCharsCopied = bufferSize; numCharsCopied <= length; ++numCharsCopied) {
         CheckAssert(numCharsCopied < bufferSize, "numCharsCopied < bufferSize");
     }
     const int kept = std::min(length, bufferSize - 1);
-    std::copy_n(quoted.data(), kept, buffer);
+    std::copy_n(quoted, kept, buffer);
     buffer[kept] = u'\0';
-    if (closing == std::u16string_view::npos) {
+    if (closing == end) {
         ReportMissingQuote(label);
     }
 }
 
 void TextFileArchive::Read(Label label, std::int64_t& value) {
     if (const char16_t* text = FindLabel(label)) {
-        CheckResult(Scanner(text).Int64(value), 1);
+        CheckResult(Scanner(RestOfLine(text)).Int64(value).Stored(), 1);
     }
 }
 
@@ -265,7 +344,7 @@ void TextFileArchive::Read(Label label, Bool& value) {
     if (text == nullptr) {
         return;
     }
-    const std::u16string_view word(text);
+    const std::u16string_view word = RestOfLine(text);
     if (word.find(u"TRUE") != std::u16string_view::npos) {
         value = true;
     } else if (word.find(u"FALSE") != std::u16string_view::npos) {
@@ -281,41 +360,38 @@ void TextFileArchive::Read(Label label, double& value) {
     if (text == nullptr) {
         return;
     }
-    Scanner scanner(text);
+    Scanner scanner(RestOfLine(text));
     if (hasFloatBits) {
         double decimals = 0.0;
         auto bits = std::bit_cast<std::int64_t>(value);
-        Literals(scanner.Double(decimals).Blank(), u"Bits=").Int64(bits);
-        CheckResult(scanner, 2);
+        scanner.Double(decimals).Blank().Word(u"Bits=").Int64(bits);
         value = std::bit_cast<double>(bits);
     } else {
-        CheckResult(scanner.Double(value), 1);
+        scanner.Double(value);
     }
+    CheckResult(scanner.Stored(), hasFloatBits ? 2 : 1);
     checkSum += DoubleCheckSum(value);
 }
 
 void TextFileArchive::Read(Label label, float& value) {
-    const char16_t* text = FindLabel(label);
-    if (text == nullptr) {
-        return;
-    }
-    Scanner scanner(text);
-    if (hasFloatBits) {
+    if (!hasFloatBits) {
+        if (CheckResult(ReadForm<FloatForm>(label, value, 1), 1)) {
+            checkSum += FloatCheckSum(value);
+        }
+    } else if (const char16_t* text = FindLabel(label)) {
+        Scanner scanner(RestOfLine(text));
         float decimals = 0.0f;
         std::int32_t bits = BitsOf(value);
-        Literals(scanner.Float(decimals).Blank(), u"Bits=").Int(bits);
-        CheckResult(scanner, 2);
+        scanner.Float(decimals).Blank().Word(u"Bits=").Int(bits);
+        CheckResult(scanner.Stored(), 2);
         value = std::bit_cast<float>(bits);
-    } else {
-        CheckResult(scanner.Float(value), 1);
+        checkSum += FloatCheckSum(value);
     }
-    checkSum += FloatCheckSum(value);
 }
 
 void TextFileArchive::Read(Label label, std::int32_t& value) {
-    if (const char16_t* text = FindLabel(label)) {
-        CheckResult(Scanner(text).Int(value), 1);
-        checkSum += static_cast<std::uint32_t>(value);
+    if (CheckResult(ReadForm<IntForm>(label, value, 1), 1)) {
+        AddInts(value);
     }
 }
 
@@ -330,58 +406,58 @@ void TextFileArchive::Read(Label label, SingleLineArchivable& value) {
 }
 
 void TextFileArchive::Read(Label label, Archivable& value, std::int32_t _version) {
-    if (FindLabel(label) != nullptr) {
+    if (FindRecord(label)) {
         value.Read(*this, _version);
     }
 }
 
 void TextFileArchive::Read(Label label, Archivable& value) {
-    if (FindLabel(label) != nullptr) {
+    if (FindRecord(label)) {
         value.Read(*this);
     }
 }
 
-template <class... Floats>
-void TextFileArchive::PutFloats(Line& line, Floats... values) const {
-    line.Text(u" [");
+template <class... Reals>
+void TextFileArchive::PutFloats(TextLine& line, Reals... values) const {
+    line.Literal(" [");
     if (!hasFloatBits) {
-        (line.Text(u" ").Float(values), ...);
-        line.Text(u" ]");
+        (line.Literal(" ").Float(values), ...);
+        line.Literal(" ]");
         return;
     }
-    (line.Text(u" ").Double(static_cast<double>(values), 2), ...);
-    line.Text(u" ] Bits=[");
-    std::u16string_view separator = u" ";
-    ((line.Text(separator).Int(BitsOf(values)), separator = u" , "), ...);
-    line.Text(u" ]");
+    (line.Literal(" ").Double(static_cast<double>(values), 2), ...);
+    line.Literal(" ] Bits=[");
+    bool isFirst = true;
+    ((isFirst ? line.Literal(" ") : line.Literal(" , "), line.Int(BitsOf(values)), isFirst = false), ...);
+    line.Literal(" ]");
 }
 
 template <int N>
 void TextFileArchive::WriteRows(Label label, const float (&rows)[N][N]) {
     CheckAssert(label.data() != nullptr, "label != NULL");
-    Put(Line(label));
+    TextLine(*file, m_TabDepth, label).End();
     ++m_TabDepth;
     for (const float(&row)[N] : rows) {
-        Line line({});
+        TextLine line(*file, m_TabDepth, {});
         if constexpr (N == 3) {
             PutFloats(line, row[0], row[1], row[2]);
         } else {
             PutFloats(line, row[0], row[1], row[2], row[3]);
         }
-        Put(line);
+        line.End();
     }
     CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");
     --m_TabDepth;
 }
 
 void TextFileArchive::Write(Label label, const Color& value) {
-    Put(Line(label).Text(u" ").Hex(value.ToUInt()));
+    TextLine(*file, m_TabDepth, label).Literal(" ").Hex(value.ToUInt()).End();
 }
 
 void TextFileArchive::Write(Label label, const Rectangle& value) {
-    Line line(label);
-    line.Text(u" [ ").Int(value.left).Text(u" , ").Int(value.top).Text(u" , ");
-    Put(line.Int(value.Width()).Text(u" , ").Int(value.Height()).Text(u" ]"));
+    TextLine line(*file, m_TabDepth, label);
+    line.Literal(" [ ").Int(value.left).Literal(" , ").Int(value.top).Literal(" , ");
+    line.Int(value.Width()).Literal(" , ").Int(value.Height()).Literal(" ]").End();
 }
 
 void TextFileArchive::Write(Label label, const Size& value) {
@@ -389,13 +465,13 @@ void TextFileArchive::Write(Label label, const Size& value) {
 }
 
 void TextFileArchive::Write(Label label, const Point& value) {
-    Put(Line(label).Text(u" [ ").Int(value.x).Text(u" , ").Int(value.y).Text(u" ]"));
+    TextLine(*file, m_TabDepth, label).Literal(" [ ").Int(value.x).Literal(" , ").Int(value.y).Literal(" ]").End();
 }
 
 void TextFileArchive::Write(Label label, const Quad& value) {
-    Line line(label);
+    TextLine line(*file, m_TabDepth, label);
     PutFloats(line, value.x, value.y, value.z, value.w);
-    Put(line);
+    line.End();
 }
 
 void TextFileArchive::Write(Label label, const Matrix44& value) {
@@ -407,49 +483,49 @@ void TextFileArchive::Write(Label label, const Matrix33& value) {
 }
 
 void TextFileArchive::Write(Label label, const Vector3& value) {
-    Line line(label);
+    TextLine line(*file, m_TabDepth, label);
     PutFloats(line, value.x, value.y, value.z);
-    Put(line);
+    line.End();
 }
 
 void TextFileArchive::Write(Label label, const char16_t* text, int) {
-    Put(Line(label).Text(u" \"").Text(text).Text(u"\""));
+    TextLine(*file, m_TabDepth, label).Literal(" \"").Text(text).Literal("\"").End();
 }
 
 void TextFileArchive::Write(Label label, const std::int64_t& value) {
-    Put(Line(label).Text(u" ").Int64(value));
+    TextLine(*file, m_TabDepth, label).Literal(" ").Int64(value).End();
 }
 
 void TextFileArchive::Write(Label label, const Bool& value) {
-    Put(Line(label).Text(value ? u" TRUE" : u" FALSE"));
+    TextLine(*file, m_TabDepth, label).Text(value ? u" TRUE" : u" FALSE").End();
 }
 
 void TextFileArchive::Write(Label label, const double& value) {
-    Line line(label);
+    TextLine line(*file, m_TabDepth, label);
     if (hasFloatBits) {
-        line.Text(u" ").Double(value, 2).Text(u" Bits=").Int64(std::bit_cast<std::int64_t>(value));
+        line.Literal(" ").Double(value, 2).Literal(" Bits=").Int64(std::bit_cast<std::int64_t>(value));
     } else {
-        line.Text(u" ").Double(value);
+        line.Literal(" ").Double(value);
     }
-    Put(line);
+    line.End();
 }
 
 void TextFileArchive::Write(Label label, const float& value) {
-    Line line(label);
+    TextLine line(*file, m_TabDepth, label);
     if (hasFloatBits) {
-        line.Text(u" ").Double(static_cast<double>(value), 2).Text(u" Bits=").Int(BitsOf(value));
+        line.Literal(" ").Double(static_cast<double>(value), 2).Literal(" Bits=").Int(BitsOf(value));
     } else {
-        line.Text(u" ").Float(value);
+        line.Literal(" ").Float(value);
     }
-    Put(line);
+    line.End();
 }
 
 void TextFileArchive::Write(Label label, const std::int32_t& value) {
-    Put(Line(label).Text(u" ").Int(value));
+    TextLine(*file, m_TabDepth, label).Literal(" ").Int(value).End();
 }
 
 void TextFileArchive::Write(Label label, const std::uint32_t& value) {
-    Put(Line(label).Text(u" ").Int(static_cast<std::int32_t>(value)));
+    TextLine(*file, m_TabDepth, label).Literal(" ").Int(static_cast<std::int32_t>(value)).End();
 }
 
 void TextFileArchive::Write(Label label, const SingleLineArchivable& value) {
@@ -457,7 +533,7 @@ void TextFileArchive::Write(Label label, const SingleLineArchivable& value) {
 }
 
 void TextFileArchive::Write(Label label, const Archivable& value) {
-    Put(Line(label));
+    TextLine(*file, m_TabDepth, label).End();
     ++m_TabDepth;
     value.Write(*this);
     CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");

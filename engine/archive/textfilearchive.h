@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-class Scanner;
+class TextLine;
 
 // The readable form: one line a field, label first, nested records indented. Reading is strictly sequential: each read
 // demands that the current line begins with its label. A label that does not match is reported and leaves its field at
@@ -56,26 +56,37 @@ public:
     void Write(Label label, const Archivable& value) override;
 
 private:
-    class Line;
-
     void TakeLine();
+    void KeepPlainLine();
+    template <class Scan>
+    bool TakePlain(Label label, Scan scan);
     const char16_t* FindLabel(Label label);
+    bool FindRecord(Label label);
+    std::u16string_view RestOfLine(const char16_t* text) const;
     void ReportMissingLabel(Label label) const;
     void ReportMissingQuote(Label label) const;
+    template <class Form, class Value>
+    int ReadForm(Label label, Value& value, int fields);
+    template <class... Reals>
+    void ReadFloats(Label label, Reals&... reals);
     template <int N>
-    void ReadFloats(const char16_t* text, float* const (&values)[N]);
+    void ReadRow(float (&row)[N]);
     template <int N>
     void ReadRows(Label label, float (&rows)[N][N]);
+    template <class... Ints>
+    void AddInts(Ints... ints);
     template <int N>
     void WriteRows(Label label, const float (&rows)[N][N]);
-    template <class... Floats>
-    void PutFloats(Line& line, Floats... values) const;
-    void Put(const Line& line);
+    template <class... Reals>
+    void PutFloats(TextLine& line, Reals... values) const;
 
     std::int32_t m_TabDepth = 0;
     FixedString<kLineCapacity> currentLine;
+    int currentLineLength = 0;
     std::int32_t lineNumber = 0;
     bool m_CurrentLineUnread = false;
+    // The line taken last, where it was taken straight from the file's bytes; the current line is older then.
+    std::string_view plainLine;
 };
 
 } // namespace Vorn

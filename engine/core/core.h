@@ -3,6 +3,7 @@
 #include "engine/archive/filearchivesystem.h"
 #include "engine/datastructures/fixedarray.h"
 #include "engine/file/filesystem.h"
+#include "engine/render/mesh/meshsystem.h"
 #include "engine/render/texture/texturesystem.h"
 
 namespace Vorn {
@@ -21,6 +22,7 @@ public:
 
     FileSystem fileSystem;
     FileArchiveSystem fileArchiveSystem{fileSystem};
+    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
     TextureSystem textureSystem;
 
 private:

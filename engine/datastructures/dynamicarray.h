@@ -8,6 +8,10 @@
 
 namespace Vorn {
 
+// Elements whose default is all zero bits: a large array of them comes zeroed from the platform, untouched until used.
+template <class T>
+inline constexpr bool kIsZeroByDefault = false;
+
 // A heap array of a set size with no spare room. An access outside fires its check and yields a scratch element.
 template <class T>
 class DynamicArray {
@@ -23,11 +27,13 @@ public:
     // kMaxListBytes, ends the process abnormally.
     void Resize(int newSize) {
         CheckAssert(newSize >= 0, "newSize >= 0");
-        T* fresh = AllocateElements<T>(newSize);
+        T* fresh = AllocateElements<T>(newSize, kIsZeroByDefault<T> ? Memory::Zeroed : Memory::Raw);
         Release();
         elements = fresh;
         size = newSize;
-        std::uninitialized_value_construct(begin(), end());
+        if constexpr (!kIsZeroByDefault<T>) {
+            std::uninitialized_value_construct(begin(), end());
+        }
     }
 
     T& operator[](int i) { return IsIndexValid(i) ? elements[i] : ScratchElement<T>(); }

@@ -7,16 +7,19 @@
 
 namespace Vorn {
 
-// Raw memory for `count` elements of a list. More than kMaxListBytes, or more than the machine has, ends the process
+enum class Memory : bool { Raw, Zeroed };
+
+// Memory for `count` elements of a list. More than kMaxListBytes, or more than the machine has, ends the process
 // abnormally.
 template <class T>
-T* AllocateElements(long long count) {
+T* AllocateElements(long long count, Memory kind = Memory::Raw) {
     static_assert(alignof(T) <= alignof(std::max_align_t));
     const auto bytes = static_cast<unsigned long long>(count) * sizeof(T);
     if (count < 0 || bytes > kMaxListBytes) {
         EndAbnormally();
     }
-    void* memory = std::malloc(bytes != 0 ? bytes : 1);
+    const std::size_t size = bytes != 0 ? bytes : 1;
+    void* memory = kind == Memory::Zeroed ? std::calloc(size, 1) : std::malloc(size);
     if (memory == nullptr) {
         EndAbnormally();
     }

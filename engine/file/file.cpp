@@ -66,17 +66,18 @@ void File::PrintText(std::u16string_view text) {
     CheckAssert(PutText(text), "result >= 0");
 }
 
-void File::PrintLine(int indentation, std::u16string_view text) {
+char* File::BeginLine(int indentation, std::size_t room) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    constexpr int kTabs = 16;
+    // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
+    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
+    const int tabs = std::clamp(indentation, 0, kMaxIndentation);
     bool written = true;
-    for (; indentation > 0; indentation -= kTabs) {
-        written =
-            PutText({u"\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t", static_cast<std::size_t>(std::min(indentation, kTabs))}) &&
-            written;
+    char* out = output->Reserve(static_cast<std::size_t>(tabs) + kTabs.size() + room, written);
+    CheckAssert(written, "result >= 0");
+    for (int put = 0; put < tabs; put += static_cast<int>(kTabs.size())) {
+        std::memcpy(out + put, kTabs.data(), kTabs.size());
     }
-    written = PutText(text) && written;
-    CheckAssert(output && output->Put("\r\n", 2) && written, "result >= 0");
+    return out + tabs;
 }
 
 bool File::PutText(std::u16string_view text) {
@@ -92,9 +93,9 @@ bool File::PutText(std::u16string_view text) {
     return written;
 }
 
-bool File::GetString(StringBuffer line) {
+bool File::GetString(StringBuffer line, int& length) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    const LineKind kind = lines ? lines->ReadLine(line.m_Buffer, line.m_BufferSize) : LineKind::None;
+    const LineKind kind = lines ? lines->ReadLine(line.m_Buffer, line.m_BufferSize, length) : LineKind::None;
     if (kind == LineKind::None) {
         if (input && input->HasFailed()) {
             ReportError(u"File GetString - Error Encountered. [ File = %s ]\n", name);

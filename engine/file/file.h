@@ -17,6 +17,9 @@ public:
     // Units of the name that reports print, terminator included.
     static constexpr int kNameCapacity = 256;
 
+    // Tabs that a line is indented by at most; no record nests that deep.
+    static constexpr int kMaxIndentation = 1024;
+
     FileAccess GetAccess() const { return access; }
     FileTranslation GetTranslation() const { return translation; }
     const FixedString<kNameCapacity>& GetName() const { return name; }
@@ -32,12 +35,28 @@ public:
     // Prints a text as it stands; an unpaired surrogate becomes U+FFFD.
     void PrintText(std::u16string_view text);
 
-    // Prints `indentation` tabs, the text and a line end.
-    void PrintLine(int indentation, std::u16string_view text);
+    // A place in the buffer behind `indentation` tabs for the bytes of a line, at most `room` of them; CommitLine takes
+    // what was put there up to `end`, and without it nothing is printed.
+    char* BeginLine(int indentation, std::size_t room);
+    void CommitLine(const char* end) { output->Commit(end); }
 
     // Reads a line into the buffer, line feed included; true at the end of the file, where the buffer keeps its
     // content. A line without its line feed, or one longer than the buffer, is reported and read as far as it goes.
-    bool GetString(StringBuffer line);
+    bool GetString(StringBuffer line) {
+        int length = 0;
+        return GetString(line, length);
+    }
+
+    // The same with the length of the line in code units, line feed included.
+    bool GetString(StringBuffer line, int& length);
+
+    // The bytes ahead of a reader that can do with UTF-8 text as it stands, with a 0 and ReadBuffer::kSlack bytes in
+    // all behind the last one that is in the buffer; null where text is to be decoded. What it takes it skips; the
+    // bytes stay until something else is read.
+    const char* PeekText() const {
+        return lines && lines->StandsAtByte() ? reinterpret_cast<const char*>(input->Cursor()) : nullptr;
+    }
+    void SkipText(std::size_t bytes) { input->Skip(bytes); }
 
     // Reads up to `count` elements and returns how many were there whole; fewer are reported. The bytes of a partial
     // element are consumed.

@@ -20,6 +20,7 @@ bool ReadBuffer::Fill(std::size_t count) {
         filled += result > 0 ? static_cast<std::size_t>(result) : 0;
     }
     end = block.get() + filled;
+    std::memset(block.get() + filled, 0, kSlack);
     return filled >= count;
 }
 

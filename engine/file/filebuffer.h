@@ -13,7 +13,12 @@ inline constexpr std::size_t kFileBlock = 65536;
 // The buffered bytes of a file that is read.
 class ReadBuffer {
 public:
-    explicit ReadBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock]) {}
+    // Bytes that may be looked at behind the last one; the first of them is 0.
+    static constexpr std::size_t kSlack = 96;
+
+    explicit ReadBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock + kSlack]) {
+        block[0] = 0;
+    }
 
     std::size_t Available() const { return static_cast<std::size_t>(end - cursor); }
     const unsigned char* Cursor() const { return cursor; }

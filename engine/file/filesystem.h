@@ -6,6 +6,9 @@
 
 namespace Vorn {
 
+// Where a data file was found.
+using DataPath = FixedString<260>;
+
 // Opens and closes files and keeps the list of those that are open. When the process ends abnormally, what was written
 // to them reaches the platform.
 class FileSystem final : public EndGuard {
@@ -24,12 +27,24 @@ public:
     // Whether a file of that name exists; a directory is none.
     static bool Exists(std::u16string_view name);
 
+    // Registers a folder that data files are looked for in. Mod folders come before all others.
+    void AddModFolder(std::u16string_view folder) { modFolders.Append().Assign(folder); }
+    void AddDataFolder(std::u16string_view folder) { dataFolders.Append().Assign(folder); }
+
+    // Looks for a data file in `subPath` of each registered folder in turn, then in that of the data source folder two
+    // levels up, and in all folders below it, depth first by name. A path over 259 units is no candidate. The first hit
+    // is the result; without one it is unchanged.
+    bool FindDataFile(DataPath& result, std::u16string_view fileName, std::u16string_view subPath, bool useModFolders,
+                      bool reportFailure) const;
+
     int OpenCount() const { return openFiles.Size(); }
 
     void BeforeAbnormalEnd() override;
 
 private:
     DynamicVector<File*> openFiles;
+    DynamicVector<DataPath> modFolders;
+    DynamicVector<DataPath> dataFolders;
 };
 
 } // namespace Vorn

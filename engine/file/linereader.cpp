@@ -1,9 +1,10 @@
 #include "engine/file/linereader.h"
 
 #include "engine/string/ascii.h"
+#include "engine/string/stringlibrary.h"
 #include "engine/string/utf8.h"
 
-#include <cstring>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -15,54 +16,52 @@ constexpr std::size_t kLongestUtf8 = 4;
 
 void LineReader::DetectEncoding() {
     encoding = Encoding::Utf8;
+    standsAtByte = true;
     input.Ensure(3);
     const std::string_view start(reinterpret_cast<const char*>(input.Cursor()), input.Available());
     if (start.starts_with("\xEF\xBB\xBF")) {
         input.Skip(3);
     } else if (start.starts_with("\xFF\xFE")) {
         encoding = Encoding::Utf16Little;
+        standsAtByte = false;
         input.Skip(2);
     } else if (start.starts_with("\xFE\xFF")) {
         encoding = Encoding::Utf16Big;
+        standsAtByte = false;
         input.Skip(2);
     }
 }
 
-LineKind LineReader::ReadLine(char16_t* line, int capacity) {
+LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
     if (encoding == Encoding::Unknown) {
         DetectEncoding();
     }
     const auto limit = static_cast<std::size_t>(capacity - 1);
-    if (ReadPlainLine(line, limit)) {
+    if (ReadPlainLine(line, limit, length)) {
         return LineKind::Whole;
     }
     std::size_t count = 0;
     std::optional<char16_t> unit;
-    bool hasNull = false;
     while (count < limit && unit != u'\n' && (unit = NextUnit())) {
         line[count++] = *unit;
-        hasNull = hasNull || *unit == u'\0';
     }
+    standsAtByte = encoding == Encoding::Utf8 && !heldBack && !lowSurrogate;
     if (count == 0) {
         return LineKind::None;
     }
     line[count] = u'\0';
-    return unit == u'\n' && !hasNull ? LineKind::Whole : LineKind::Open;
+    length = static_cast<int>(TextIn(line, capacity).size());
+    return length > 0 && line[length - 1] == u'\n' ? LineKind::Whole : LineKind::Open;
 }
 
 // The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
-bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit) {
-    if (encoding != Encoding::Utf8 || heldBack || lowSurrogate) {
+bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
+    if (!StandsAtByte() || limit <= kWidenBlock) {
         return false;
     }
     input.Ensure(limit);
-    const unsigned char* start = input.Cursor();
-    const void* lineFeed = std::memchr(start, '\n', std::min(limit, input.Available()));
-    if (lineFeed == nullptr) {
-        return false;
-    }
-    std::size_t count = static_cast<std::size_t>(static_cast<const unsigned char*>(lineFeed) - start) + 1;
-    if (!WidenAscii(start, count, line)) {
+    std::size_t count = WidenUntil(input.Cursor(), std::min(limit - kWidenBlock, input.Available()), line, '\n');
+    if (count == 0) {
         return false;
     }
     input.Skip(count);
@@ -70,6 +69,7 @@ bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit) {
         line[--count - 1] = u'\n';
     }
     line[count] = u'\0';
+    length = static_cast<int>(count);
     return true;
 }
 

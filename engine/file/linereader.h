@@ -17,13 +17,17 @@ public:
 
     // Reads up to and with the next line feed, at most capacity - 1 units, and terminates. At the end of the file the
     // line keeps its content. A line with U+0000 in it ends there as far as anybody can see, and counts as open.
-    LineKind ReadLine(char16_t* line, int capacity);
+    // `length` counts the units that can be seen.
+    LineKind ReadLine(char16_t* line, int capacity, int& length);
+
+    // Whether the next unit begins with the next byte of a UTF-8 file.
+    bool StandsAtByte() const { return standsAtByte; }
 
 private:
     enum class Encoding { Unknown, Utf8, Utf16Little, Utf16Big };
 
     void DetectEncoding();
-    bool ReadPlainLine(char16_t* line, std::size_t capacity);
+    bool ReadPlainLine(char16_t* line, std::size_t limit, int& length);
     std::optional<char16_t> NextUnit();
     std::optional<char16_t> DecodeUnit();
     std::optional<char16_t> DecodeUtf8Unit();
@@ -34,6 +38,7 @@ private:
     // The unit behind a carriage return that turned out not to belong to a line end.
     std::optional<char16_t> heldBack;
     std::optional<char16_t> lowSurrogate;
+    bool standsAtByte = false;
 };
 
 } // namespace Vorn

@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
-#include <string>
 #include <sys/stat.h>
+#include <utility>
 
 #ifdef _WIN32
 #include <io.h>
+#include <windows.h>
 #else
+#include <dirent.h>
 #include <unistd.h>
 #endif
 
@@ -48,6 +50,26 @@ bool CloseDescriptor(int descriptor) {
     return _close(descriptor) == 0;
 }
 
+// Calls `take` with the name of each folder in a folder, but those that are links.
+template <class Take>
+void ForEachSubfolder(std::u16string_view folder, Take take) {
+    std::wstring pattern(folder.begin(), folder.end());
+    pattern += L"\\*";
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(pattern.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return;
+    }
+    do {
+        constexpr DWORD kKind = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+        if ((found.dwFileAttributes & kKind) == FILE_ATTRIBUTE_DIRECTORY) {
+            const std::wstring_view name = found.cFileName;
+            take(std::u16string(name.begin(), name.end()));
+        }
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+}
+
 #else
 
 int OpenDescriptor(std::u16string_view name, FileAccess access) {
@@ -83,6 +105,22 @@ bool IsDirectoryDescriptor(int descriptor) {
 
 bool CloseDescriptor(int descriptor) {
     return close(descriptor) == 0;
+}
+
+// Calls `take` with the name of each folder in a folder, but those that are links.
+template <class Take>
+void ForEachSubfolder(std::u16string_view folder, Take take) {
+    DIR* listing = opendir(BytesFromName(folder).c_str());
+    if (listing == nullptr) {
+        return;
+    }
+    while (const dirent* entry = readdir(listing)) {
+        struct stat status = {};
+        if (fstatat(dirfd(listing), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode)) {
+            take(NameFromBytes(entry->d_name));
+        }
+    }
+    closedir(listing);
 }
 
 #endif
@@ -129,6 +167,16 @@ bool NativeFile::Seek(long long position) {
     return SeekTo(descriptor, position);
 }
 
+bool MakeWritable(std::u16string_view name) {
+#ifdef _WIN32
+    return _wchmod(std::wstring(name.begin(), name.end()).c_str(), _S_IREAD | _S_IWRITE) == 0;
+#else
+    const std::string path = BytesFromName(name);
+    struct stat status = {};
+    return stat(path.c_str(), &status) == 0 && chmod(path.c_str(), status.st_mode | S_IWUSR) == 0;
+#endif
+}
+
 bool IsExistingFile(std::u16string_view name) {
 #ifdef _WIN32
     struct _stat64 status = {};
@@ -137,6 +185,17 @@ bool IsExistingFile(std::u16string_view name) {
     struct stat status = {};
     return stat(BytesFromName(name).c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
 #endif
+}
+
+std::vector<std::u16string> SubfoldersOf(std::u16string_view folder) {
+    std::vector<std::u16string> names;
+    ForEachSubfolder(folder, [&](std::u16string name) {
+        if (name != u"." && name != u"..") {
+            names.push_back(std::move(name));
+        }
+    });
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 } // namespace Vorn

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace Vorn {
 
@@ -39,7 +41,21 @@ private:
     int descriptor = kNone;
 };
 
+// Takes a file's protection against writing off; false if that fails or there is no such file.
+bool MakeWritable(std::u16string_view name);
+
 // Whether a file of that name exists, links followed; a directory is none.
 bool IsExistingFile(std::u16string_view name);
+
+// Between the folders of a path that the program makes itself.
+#ifdef _WIN32
+inline constexpr char16_t kPathSeparator = u'\\';
+#else
+inline constexpr char16_t kPathSeparator = u'/';
+#endif
+
+// The names of the folders in a folder, in ascending order of their units; links are left out. Empty for a folder that
+// cannot be read.
+std::vector<std::u16string> SubfoldersOf(std::u16string_view folder);
 
 } // namespace Vorn

@@ -38,7 +38,7 @@ public:
 
     bool IsEmpty() const { return units[0] == u'\0'; }
     const char16_t* Units() const { return units; }
-    std::u16string_view View() const { return units; }
+    std::u16string_view View() const { return TextIn(units, N); }
     StringBuffer Buffer() { return {units, N}; }
 
     friend bool operator==(const FixedString& left, const FixedString& right) { return left.View() == right.View(); }

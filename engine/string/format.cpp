@@ -63,8 +63,8 @@ private:
     }
 
     void PutArgument(std::u16string_view conversion, const FormatArgument& argument) {
-        char16_t digits[kNumberTextCapacity];
-        char16_t* digitsEnd = digits;
+        char digits[kNumberTextCapacity];
+        char* digitsEnd = digits;
         switch (argument.kind) {
         case Kind::Text:
             Put(argument.text);
@@ -85,7 +85,7 @@ private:
             digitsEnd = PutHex64(digits, reinterpret_cast<std::uintptr_t>(argument.pointer));
             break;
         }
-        Put({digits, static_cast<std::size_t>(digitsEnd - digits)});
+        PutNarrow({digits, static_cast<std::size_t>(digitsEnd - digits)});
     }
 
     // Left-aligned text, filled with blanks up to `width` units.
@@ -97,9 +97,9 @@ private:
         }
     }
 
-    void PutNarrow(const char* text) {
-        for (; *text != '\0'; ++text) {
-            const auto unit = static_cast<char16_t>(static_cast<unsigned char>(*text));
+    void PutNarrow(std::string_view text) {
+        for (const char byte : text) {
+            const auto unit = static_cast<char16_t>(static_cast<unsigned char>(byte));
             Put({&unit, 1});
         }
     }

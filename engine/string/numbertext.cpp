@@ -6,74 +6,64 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <string_view>
 
 namespace Vorn {
 
 namespace {
 
 constexpr auto kDigitPairs = [] {
-    std::array<char16_t, 200> pairs{};
+    std::array<char, 200> pairs{};
     for (std::size_t i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char16_t>(u'0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char16_t>(u'0' + i % 10);
+        pairs[2 * i] = static_cast<char>('0' + i / 10);
+        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
     }
     return pairs;
 }();
 
-void PutPair(char16_t* out, std::uint32_t value) {
-    std::memcpy(out, &kDigitPairs[2 * static_cast<std::size_t>(value)], 2 * sizeof(char16_t));
+void PutPair(char* out, std::uint32_t value) {
+    std::memcpy(out, &kDigitPairs[2 * static_cast<std::size_t>(value)], 2);
 }
 
-int CountDigits(std::uint32_t value) {
-    if (value < 10) {
-        return 1;
+char* PutUint(char* out, std::uint32_t value) {
+    if (value >= 10000) {
+        out = PutUint(out, value / 10000);
+        PutPair(out, value / 100 % 100);
+        PutPair(out + 2, value % 100);
+        return out + 4;
     }
-    int digits = 2;
-    for (std::uint64_t bound = 100; value >= bound; bound *= 10) {
-        ++digits;
-    }
-    return digits;
-}
-
-char16_t* PutUint(char16_t* out, std::uint32_t value) {
-    char16_t* end = out + CountDigits(value);
-    char16_t* cursor = end;
-    while (value >= 100) {
-        PutPair(cursor -= 2, value % 100);
-        value /= 100;
+    if (value >= 100) {
+        out = PutUint(out, value / 100);
+        PutPair(out, value % 100);
+        return out + 2;
     }
     if (value >= 10) {
-        PutPair(cursor - 2, value);
-    } else {
-        cursor[-1] = static_cast<char16_t>(u'0' + value);
+        PutPair(out, value);
+        return out + 2;
     }
-    return end;
+    *out = static_cast<char>('0' + value);
+    return out + 1;
 }
 
-char16_t* PutUint64(char16_t* out, std::uint64_t value) {
+char* PutUint64(char* out, std::uint64_t value) {
     if (value <= UINT32_MAX) {
         return PutUint(out, static_cast<std::uint32_t>(value));
     }
     constexpr std::uint64_t kNineDigits = 1000000000;
     out = PutUint64(out, value / kNineDigits);
     auto rest = static_cast<std::uint32_t>(value % kNineDigits);
-    for (char16_t* cursor = out + 9; cursor != out; rest /= 10) {
-        *--cursor = static_cast<char16_t>(u'0' + rest % 10);
+    for (char* cursor = out + 9; cursor != out; rest /= 10) {
+        *--cursor = static_cast<char>('0' + rest % 10);
     }
     return out + 9;
 }
 
-char16_t* Widen(char16_t* out, std::string_view text) {
-    return std::transform(text.begin(), text.end(), out, [](char c) { return static_cast<char16_t>(c); });
+char* PutNotFinite(char* out, double value) {
+    std::memcpy(out, std::isnan(value) ? "nan" : "inf", 3);
+    return out + 3;
 }
 
-char16_t* PutNotFinite(char16_t* out, double value) {
-    return Widen(out, std::isnan(value) ? "nan" : "inf");
-}
-
-char16_t* PutSixPlaces(char16_t* out, std::uint32_t fraction) {
-    out[0] = u'.';
+char* PutSixPlaces(char* out, std::uint32_t fraction) {
+    out[0] = '.';
     PutPair(out + 1, fraction / 10000);
     PutPair(out + 3, fraction / 100 % 100);
     PutPair(out + 5, fraction % 100);
@@ -82,50 +72,47 @@ char16_t* PutSixPlaces(char16_t* out, std::uint32_t fraction) {
 
 } // namespace
 
-char16_t* PutInt(char16_t* out, std::int32_t value) {
+char* PutInt(char* out, std::int32_t value) {
     auto magnitude = static_cast<std::uint32_t>(value);
     if (value < 0) {
-        *out++ = u'-';
+        *out++ = '-';
         magnitude = 0 - magnitude;
     }
     return PutUint(out, magnitude);
 }
 
-char16_t* PutInt64(char16_t* out, std::int64_t value) {
+char* PutInt64(char* out, std::int64_t value) {
     auto magnitude = static_cast<std::uint64_t>(value);
     if (value < 0) {
-        *out++ = u'-';
+        *out++ = '-';
         magnitude = 0 - magnitude;
     }
     return PutUint64(out, magnitude);
 }
 
-char16_t* PutHex64(char16_t* out, std::uint64_t value) {
+char* PutHex64(char* out, std::uint64_t value) {
     const int digits = std::max(1, (static_cast<int>(std::bit_width(value)) + 3) / 4);
-    for (char16_t* cursor = out + digits; cursor != out; value >>= 4) {
-        *--cursor = u"0123456789abcdef"[value & 15];
+    for (char* cursor = out + digits; cursor != out; value >>= 4) {
+        *--cursor = "0123456789abcdef"[value & 15];
     }
     return out + digits;
 }
 
-char16_t* PutHex(char16_t* out, std::uint32_t value) {
+char* PutHex(char* out, std::uint32_t value) {
     return PutHex64(out, value);
 }
 
-char16_t* PutFixed(char16_t* out, double value, int places) {
+char* PutFixed(char* out, double value, int places) {
     if (std::signbit(value)) {
-        *out++ = u'-';
+        *out++ = '-';
     }
     if (!std::isfinite(value)) {
         return PutNotFinite(out, value);
     }
-    char digits[kNumberTextCapacity];
-    const std::to_chars_result result =
-        std::to_chars(digits, digits + sizeof digits, std::fabs(value), std::chars_format::fixed, places);
-    return Widen(out, {digits, static_cast<std::size_t>(result.ptr - digits)});
+    return std::to_chars(out, out + kNumberTextCapacity - 1, std::fabs(value), std::chars_format::fixed, places).ptr;
 }
 
-char16_t* PutFixed6(char16_t* out, float value) {
+char* PutFixed6(char* out, float value) {
     constexpr std::uint32_t kMillion = 1000000;
     const auto bits = std::bit_cast<std::uint32_t>(value);
     const int exponent = static_cast<int>(bits >> 23 & 0xFF);
@@ -135,7 +122,7 @@ char16_t* PutFixed6(char16_t* out, float value) {
         return PutFixed(out, static_cast<double>(value), 6);
     }
     if (bits >> 31 != 0) {
-        *out++ = u'-';
+        *out++ = '-';
     }
     if (shift <= 0) {
         return PutSixPlaces(PutUint64(out, mantissa << -shift), 0);

@@ -4,6 +4,7 @@
 #include <bit>
 #include <charconv>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <limits>
 #include <string_view>
@@ -17,7 +18,7 @@ constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7
 
 constexpr std::uint64_t kExactDoubleLimit = std::uint64_t{1} << 53;
 
-// No file line is longer, and a longer number text could not be told from one cut here by more than its last bit.
+// More than a line of a file holds.
 constexpr std::size_t kNumberLimit = 1024;
 
 bool IsDigit(char16_t unit) {
@@ -44,6 +45,31 @@ bool TakeSign(const char16_t*& cursor) {
     return negative;
 }
 
+// Digits appended to a number, modulo 2^64.
+std::uint64_t TakeDigits(const char16_t*& p, std::uint64_t number) {
+    for (std::uint32_t digit = DigitValue(*p); digit < 10; digit = DigitValue(*++p)) {
+        number = number * 10 + digit;
+    }
+    return number;
+}
+
+// Four digits at once, as 16-bit lanes of a word: one product sums up all lanes with their powers of ten in the top
+// one.
+bool TakeFourDigits(const char16_t*& p, std::uint64_t& number) {
+    constexpr std::uint64_t kEachLane = 0x0001000100010001;
+    constexpr std::uint64_t kPowers = std::uint64_t{1000} << 48 | std::uint64_t{100} << 32 | 10 << 16 | 1;
+    std::uint64_t lanes = 0;
+    std::memcpy(&lanes, p, sizeof lanes);
+    lanes -= kEachLane * u'0';
+    // A lane beyond 9 shows in its top bit, by itself or by the addition.
+    if (((lanes | (lanes + kEachLane * (0x7FFF - 9))) & kEachLane << 15) != 0) {
+        return false;
+    }
+    number = number * 10000 + (lanes * kPowers >> 48);
+    p += 4;
+    return true;
+}
+
 // Signed decimal digits modulo 2^64.
 bool ScanDecimal(const char16_t*& cursor, std::uint64_t& value) {
     const char16_t* p = SkipWhiteSpace(cursor);
@@ -51,55 +77,37 @@ bool ScanDecimal(const char16_t*& cursor, std::uint64_t& value) {
     if (!IsDigit(*p)) {
         return false;
     }
-    std::uint64_t magnitude = 0;
-    for (; IsDigit(*p); ++p) {
-        magnitude = magnitude * 10 + DigitValue(*p);
-    }
+    const std::uint64_t magnitude = TakeDigits(p, 0);
     value = negative ? 0 - magnitude : magnitude;
     cursor = p;
     return true;
 }
 
-// A number text taken apart: `mantissa` (exact up to 19 digits) times 10 to the power of -fractionDigits, and the
-// exponent that was written behind it.
-struct Decimal {
-    const char16_t* digits = nullptr;
-    const char16_t* end = nullptr;
-    std::uint64_t mantissa = 0;
-    std::ptrdiff_t digitCount = 0;
-    std::ptrdiff_t fractionDigits = 0;
-    bool negative = false;
-    bool hasExponent = false;
-};
-
-bool SplitDecimal(const char16_t* p, Decimal& decimal) {
-    decimal.negative = TakeSign(p);
-    decimal.digits = p;
-    for (; IsDigit(*p); ++p) {
-        decimal.mantissa = decimal.mantissa * 10 + DigitValue(*p);
-    }
-    decimal.digitCount = p - decimal.digits;
-    if (*p == u'.') {
-        const char16_t* fraction = ++p;
-        for (; IsDigit(*p); ++p) {
-            decimal.mantissa = decimal.mantissa * 10 + DigitValue(*p);
-        }
-        decimal.fractionDigits = p - fraction;
-        decimal.digitCount += decimal.fractionDigits;
-    }
-    decimal.end = p;
-    if (decimal.digitCount == 0) {
-        return false;
-    }
-    if ((*p | 0x20) == u'e') {
+const char16_t* SkipDigits(const char16_t* p) {
+    while (IsDigit(*p)) {
         ++p;
-        TakeSign(p);
-        decimal.hasExponent = IsDigit(*p);
-        while (decimal.hasExponent && IsDigit(*p)) {
-            decimal.end = ++p;
-        }
     }
-    return true;
+    return p;
+}
+
+// The end of the longest decimal number without sign at `p`, or `p` if there is none.
+const char16_t* EndOfDecimal(const char16_t* p) {
+    const char16_t* end = SkipDigits(p);
+    bool hasDigits = end != p;
+    if (*end == u'.') {
+        const char16_t* fraction = end + 1;
+        end = SkipDigits(fraction);
+        hasDigits = hasDigits || end != fraction;
+    }
+    if (!hasDigits) {
+        return p;
+    }
+    if ((*end | 0x20) == u'e') {
+        const char16_t* exponent = end + 1;
+        TakeSign(exponent);
+        end = IsDigit(*exponent) ? SkipDigits(exponent) : end;
+    }
+    return end;
 }
 
 bool StartsWithWord(const char16_t* text, std::u16string_view word) {
@@ -152,31 +160,32 @@ bool IsHuge(std::string_view text) {
 
 // The general road: the library's exact conversion of the text as it stands.
 template <class Real>
-Real ConvertText(const Decimal& decimal) {
-    char text[kNumberLimit];
-    const auto length = std::min(static_cast<std::size_t>(decimal.end - decimal.digits), sizeof text);
-    std::transform(decimal.digits, decimal.digits + length, text,
-                   [](char16_t unit) { return static_cast<char>(unit); });
-    Real value = 0;
-    const std::from_chars_result result = std::from_chars(text, text + length, value);
-    if (result.ec == std::errc::result_out_of_range) {
-        value = IsHuge({text, length}) ? std::numeric_limits<Real>::infinity() : Real{0};
+bool ScanReal(const char16_t*& cursor, Real& value) {
+    const char16_t* p = SkipWhiteSpace(cursor);
+    const bool negative = TakeSign(p);
+    const char16_t* end = EndOfDecimal(p);
+    if (end == p) {
+        return ScanWord(cursor, value);
     }
-    return decimal.negative ? -value : value;
+    char text[kNumberLimit];
+    const auto length = std::min(static_cast<std::size_t>(end - p), sizeof text);
+    std::transform(p, p + length, text, [](char16_t unit) { return static_cast<char>(unit); });
+    Real magnitude = 0;
+    const std::from_chars_result result = std::from_chars(text, text + length, magnitude);
+    if (result.ec == std::errc::result_out_of_range) {
+        magnitude = IsHuge({text, length}) ? std::numeric_limits<Real>::infinity() : Real{0};
+    }
+    value = negative ? -magnitude : magnitude;
+    cursor = end;
+    return true;
 }
 
-// Divides in 64 bits where mantissa and power are exact there. The quotient is then rounded once, and rounding it
-// again to 32 bits is safe unless it lies on the middle between two floats, where it may hide a remainder.
-bool DivideExactly(const Decimal& decimal, float& value) {
-    if (decimal.hasExponent || decimal.digitCount > 19 || decimal.mantissa > kExactDoubleLimit) {
-        return false;
-    }
-    const double quotient = static_cast<double>(decimal.mantissa) / kPowersOfTen[decimal.fractionDigits];
-    if ((std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) == 0x10000000) {
-        return false;
-    }
-    value = static_cast<float>(decimal.negative ? -quotient : quotient);
-    return true;
+// Divides in 64 bits, where mantissa and power are exact. The quotient is then rounded once, and rounding it again to
+// 32 bits is safe unless it lies on the middle between two floats, where it may hide a remainder.
+bool DivideExactly(std::uint64_t mantissa, std::ptrdiff_t places, float& value) {
+    const double quotient = static_cast<double>(mantissa) / kPowersOfTen[places];
+    value = static_cast<float>(quotient);
+    return mantissa <= kExactDoubleLimit && (std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) != 0x10000000;
 }
 
 } // namespace
@@ -217,26 +226,35 @@ bool Scanner::ScanHex(std::uint32_t& value) {
     return true;
 }
 
+// Takes short numbers without an exponent, which is nearly all, straight from their digits.
 bool Scanner::ScanFloat(float& value) {
-    Decimal decimal;
-    if (!SplitDecimal(SkipWhiteSpace(cursor), decimal)) {
-        return ScanWord(cursor, value);
+    constexpr std::ptrdiff_t kExactDigits = 19;
+    const char16_t* p = SkipWhiteSpace(cursor);
+    const bool negative = TakeSign(p);
+    const char16_t* start = p;
+    std::uint64_t mantissa = TakeDigits(p, 0);
+    std::ptrdiff_t digits = p - start;
+    std::ptrdiff_t places = 0;
+    if (*p == u'.') {
+        const char16_t* fraction = ++p;
+        if (end - p >= 4 && std::endian::native == std::endian::little) {
+            TakeFourDigits(p, mantissa);
+        }
+        mantissa = TakeDigits(p, mantissa);
+        places = p - fraction;
+        digits += places;
     }
-    if (!DivideExactly(decimal, value)) {
-        value = ConvertText<float>(decimal);
+    float magnitude = 0.0f;
+    if (digits == 0 || digits > kExactDigits || (*p | 0x20) == u'e' || !DivideExactly(mantissa, places, magnitude)) {
+        return ScanReal(cursor, value);
     }
-    cursor = decimal.end;
+    value = negative ? -magnitude : magnitude;
+    cursor = p;
     return true;
 }
 
 bool Scanner::ScanDouble(double& value) {
-    Decimal decimal;
-    if (!SplitDecimal(SkipWhiteSpace(cursor), decimal)) {
-        return ScanWord(cursor, value);
-    }
-    value = ConvertText<double>(decimal);
-    cursor = decimal.end;
-    return true;
+    return ScanReal(cursor, value);
 }
 
 } // namespace Vorn

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace Vorn {
 
@@ -24,7 +25,8 @@ inline const char16_t* SkipWhiteSpace(const char16_t* text) {
 // even; overflow stores an infinity. No hexadecimal floats, no locale.
 class Scanner {
 public:
-    explicit Scanner(const char16_t* text) : cursor(text) {}
+    // The text must have its terminator behind it.
+    explicit Scanner(std::u16string_view text) : cursor(text.data()), end(text.data() + text.size()) {}
 
     // Any run of white space, also none.
     Scanner& Blank() {
@@ -38,6 +40,14 @@ public:
             ++cursor;
         } else {
             Fail();
+        }
+        return *this;
+    }
+
+    // Each unit of a text like Literal.
+    Scanner& Word(std::u16string_view word) {
+        for (const char16_t unit : word) {
+            Literal(unit);
         }
         return *this;
     }
@@ -58,7 +68,7 @@ private:
     bool ScanDouble(double& value);
 
     // An empty text fits no further step but a blank.
-    void Fail() { cursor = u""; }
+    void Fail() { cursor = end; }
 
     Scanner& Store(bool scanned) {
         if (scanned) {
@@ -70,6 +80,7 @@ private:
     }
 
     const char16_t* cursor;
+    const char16_t* end;
     int stored = 0;
 };
 

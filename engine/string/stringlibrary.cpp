@@ -1,6 +1,7 @@
 #include "engine/string/stringlibrary.h"
 
 #include "engine/core/report.h"
+#include "engine/string/ascii.h"
 
 #include <algorithm>
 #include <cstring>
@@ -77,7 +78,7 @@ int GetLength(const char16_t* s) {
 }
 
 std::u16string_view TextIn(const char16_t* units, int capacity) {
-    const char16_t* end = std::find(units, units + capacity, u'\0');
+    const char16_t* end = FindUnit(units, units + capacity, u'\0');
     return {units, static_cast<std::size_t>(end - units)};
 }
 

@@ -3,6 +3,8 @@
 #include "engine/core/core.h"
 #include "engine/string/utf8.h"
 #include "engine/window/brushset.h"
+#include "gs/entity/entitysystem.h"
+#include "gs/render/particle/particlesimulationdefinitionsystem.h"
 #include "tools/kelvane/savegame.h"
 
 namespace Vorn {
@@ -18,14 +20,30 @@ struct Conversion {
     FileArchiveType form;
 };
 
-// Runs `write` on the destination's archive if it opens.
+// Runs `write` on the destination's archive and returns true if it opens.
 template <class Write>
-void WriteDestination(Core& core, const Conversion& conversion, Write write) {
+bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     FileArchiveSystem& archives = core.fileArchiveSystem;
-    if (FileArchive* archive = archives.OpenForWrite(conversion.destination, false, conversion.form)) {
-        write(*archive);
-        archives.Close(archive);
+    FileArchive* archive = archives.OpenForWrite(conversion.destination, false, conversion.form);
+    if (archive == nullptr) {
+        return false;
     }
+    write(*archive);
+    archives.Close(archive);
+    return true;
+}
+
+// A mesh that was not found ends the process where it would be written, with the destination open.
+void ConvertMesh(Core& core, const Conversion& conversion) {
+    Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        if (mesh == nullptr) {
+            EndAbnormally();
+        }
+        archive.Write(u"MeshData", mesh->data);
+    });
+    core.meshSystem.ReleaseMesh(mesh);
+    core.meshSystem.FreeAll();
 }
 
 void ConvertBrushes(Core& core, const Conversion& conversion) {
@@ -38,6 +56,25 @@ void ConvertBrushes(Core& core, const Conversion& conversion) {
     brushSet.ReleaseTextures();
 }
 
+void ConvertEntity(Core& core, const Conversion& conversion) {
+    EntitySystem entitySystem(core.fileArchiveSystem);
+    const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(conversion.source);
+    if (definition != nullptr) {
+        WriteDestination(core, conversion,
+                         [&](Archive& archive) { EntitySystem::WriteEntityDef(archive, *definition); });
+    }
+}
+
+void ConvertParticle(Core& core, const Conversion& conversion) {
+    ParticleSimulationDefinition definition;
+    ParticleSimulationDefinitionSystem(core.fileArchiveSystem).Load(definition, conversion.source);
+    definition.StripFilePaths();
+    if (WriteDestination(core, conversion,
+                         [&](Archive& archive) { archive.Write(ParticleSimulationDefinition::kLabel, definition); })) {
+        definition.SetFileName(conversion.destination);
+    }
+}
+
 void ConvertSaveGame(Core&, const Conversion& conversion) {
     StampSaveGame(conversion.source, conversion.destination);
 }
@@ -48,7 +85,11 @@ struct ContentType {
 };
 
 constexpr ContentType kContentTypes[] = {
+    {u"mesh", ConvertMesh},
+    {u"MESH", ConvertMesh},
     {u"brushes", ConvertBrushes},
+    {u"entity", ConvertEntity},
+    {u"particle", ConvertParticle},
     {u"saveGame", ConvertSaveGame},
 };
 

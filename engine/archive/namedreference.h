@@ -1,0 +1,23 @@
+#pragma once
+
+#include "engine/archive/archivable.h"
+#include "engine/string/fixedstring.h"
+
+namespace Vorn {
+
+// A reference to a thing by its name alone, stored as one text of at most N - 1 code units under the owner's label. A
+// missing label leaves the name as it is; no name is looked up, and an empty one refers to nothing.
+template <int N>
+class NamedReference : public SingleLineArchivable {
+public:
+    void Read(Label label, Archive& archive) override { archive.Read(label, name.Buffer().m_Buffer, N); }
+    void Write(Label label, Archive& archive) const override { archive.Write(label, name.Units(), N); }
+
+    const FixedString<N>& GetName() const { return name; }
+    void SetName(std::u16string_view _name) { name.Assign(_name); }
+
+protected:
+    FixedString<N> name;
+};
+
+} // namespace Vorn

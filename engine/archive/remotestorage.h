@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+namespace Vorn {
+
+// The remote storage facility behind SteamFileArchive: an area of memory and a place in it that moves on as archives
+// read and write. What becomes of the area is the business of the facility.
+class RemoteStorage {
+public:
+    static constexpr std::size_t kAreaSize = 31457280;
+
+    virtual ~RemoteStorage() = default;
+
+    // The start of the area of kAreaSize bytes.
+    virtual unsigned char* GetArea() = 0;
+    // The current place, from the start of the area, in bytes.
+    virtual std::size_t GetPlace() const = 0;
+    virtual void MovePlace(std::size_t bytes) = 0;
+    virtual void Rewind() = 0;
+};
+
+// Remote storage that keeps its area in this process alone.
+class MemoryStorage final : public RemoteStorage {
+public:
+    MemoryStorage() : area(new unsigned char[kAreaSize]()) {}
+
+    unsigned char* GetArea() override { return area.get(); }
+    std::size_t GetPlace() const override { return place; }
+    void MovePlace(std::size_t bytes) override { place += bytes; }
+    void Rewind() override { place = 0; }
+
+private:
+    std::unique_ptr<unsigned char[]> area;
+    std::size_t place = 0;
+};
+
+} // namespace Vorn

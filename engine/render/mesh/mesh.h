@@ -1,0 +1,160 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "engine/datastructures/dynamicarray.h"
+#include "engine/datastructures/fixedarray.h"
+
+namespace Vorn {
+
+class FileArchiveSystem;
+class FileTexture;
+
+// A loaded model. Owned by MeshSystem and shared by reference count, except for mock meshes, which belong to whoever
+// got them.
+class Mesh {
+public:
+    // Passed through for the game; the converter has no use for them.
+    struct LoadParams {
+        std::uint16_t kind = 0;
+        std::int32_t values[3] = {-1, -1, -1};
+    };
+
+    // Plain, since a mesh has many of them; a colour in a file is not kept.
+    struct Vertex {
+        Vector3 position;
+        Vector3 normal;
+        Vector3 tangent;
+        float u0 = 0.0f;
+        float v0 = 0.0f;
+        float u1 = 0.0f;
+        float v1 = 0.0f;
+    };
+
+    // A vertex for the moment in which it is read or written.
+    struct ArchivableVertex final : Record, Vertex {
+        explicit ArchivableVertex(const Vertex& vertex) : Vertex(vertex) {}
+
+        void Fields(FieldIo& io) override;
+    };
+
+    // Indices of vertices and of the material, never checked against the arrays.
+    struct Triangle {
+        std::uint32_t iVertex0 = 0xFFFFFFFF;
+        std::uint32_t iVertex1 = 0xFFFFFFFF;
+        std::uint32_t iVertex2 = 0xFFFFFFFF;
+        std::uint32_t iMaterial = 0xFFFFFFFF;
+    };
+
+    // A triangle for the moment in which it is read or written.
+    struct ArchivableTriangle final : Record, Triangle {
+        explicit ArchivableTriangle(const Triangle& triangle) : Triangle(triangle) {}
+
+        void Fields(FieldIo& io) override;
+    };
+
+    // A named place on the model. An orientation that is not left-handed and normalised is reported when read, and
+    // kept.
+    struct Point final : Record {
+        FixedString<256> name;
+        Vector3 position;
+        Matrix33 orientation;
+
+        // A nameless point at the origin that looks along the axes.
+        static Point Default();
+
+        void Fields(FieldIo& io) override;
+    };
+
+    struct Material final : Record {
+        FixedString<256> diffuseTextureFileName;
+        FixedString<256> selfIlluminationTextureFileName;
+        FixedString<256> normalTextureFileName;
+        FixedString<256> displacementTextureFileName;
+        FixedString<256> teamColorTextureFileName;
+        Color diffuse;
+        Color ambient;
+        Color specular;
+        Color emissive;
+        float glossiness = 0.0f;
+        // Set by reading a team colour texture whose stem is "TeamLogo"; not stored.
+        bool isTeamLogo = false;
+
+        void Fields(FieldIo& io) override;
+    };
+
+    // The stored part of a mesh. Writing computes the cached vertex indices anew, whatever was read.
+    class Data final : public Record {
+    public:
+        static constexpr int kDirectionCount = 6;
+
+        using VertexIndexVector = DynamicVector<std::int32_t>;
+
+        // Reads the file at `path`, either form. A file that is neither ends the process abnormally, and so does an
+        // array count that is missing, negative or beyond kMaxListBytes.
+        void Load(FileArchiveSystem& archives, std::u16string_view path);
+
+        void Fields(FieldIo& io) override;
+
+        // Lists for each of the directions UP, DOWN, LEFT, RIGHT, FRONT and BACK the vertices that face it.
+        void ComputeCachedVertexIndices();
+
+        std::uint32_t maxDiffuseMipLevel = 0;
+        Bool hasValidTangents = false;
+        float BoundingRadius = -1.0f;
+        Vector3 MaxBoundingExtents{-kUnbounded, -kUnbounded, -kUnbounded};
+        Vector3 MinBoundingExtents{kUnbounded, kUnbounded, kUnbounded};
+        DynamicArray<Material> materials;
+        DynamicArray<Point> points;
+        DynamicArray<Vertex> vertices;
+        DynamicArray<Triangle> triangles;
+        FixedArray<VertexIndexVector, kDirectionCount> cachedVertexIndices;
+
+        // Not stored.
+        bool isLoaded = false;
+        std::int32_t version = 0;
+        FixedString<256> fileName;
+        Vector3 boundingSize;
+        Vector3 boundingCentre;
+        Vector3 boundingHalfSize;
+        Point defaultPoint = Point::Default();
+
+    private:
+        static constexpr float kUnbounded = 3.4028234663852886e+38f;
+
+        void ComputeBoundingBox();
+    };
+
+    explicit Mesh(const LoadParams& _loadParams) : loadParams(_loadParams) {}
+    Mesh(const Mesh&) = delete;
+    Mesh& operator=(const Mesh&) = delete;
+    ~Mesh();
+
+    std::int32_t GetRefCount() const { return m_RefCount; }
+
+    LoadParams loadParams;
+    Data data;
+
+private:
+    friend class MeshSystem;
+
+    // The path that the mesh was found at; MeshSystem keeps one mesh for each.
+    FixedString<260> resolvedName;
+    std::int32_t m_RefCount = 0;
+    bool isMock = false;
+
+    // What the renderer adds; the converter runs without one.
+    DynamicVector<FileTexture*> m_DiffuseTexturePtrs;
+    DynamicVector<FileTexture*> m_SelfIlluminationTexturePtrs;
+    DynamicVector<FileTexture*> m_NormalTexturePtrs;
+    DynamicVector<FileTexture*> m_DisplacementTexturePtrs;
+    DynamicVector<FileTexture*> m_TeamColorTexturePtrs;
+    void* m_pD3DXMesh = nullptr;
+    void* m_pSHPRTBuffer = nullptr;
+    void* m_pAttributeTable = nullptr;
+    std::uint32_t m_AttributeTableSize = 0;
+};
+
+template <>
+inline constexpr bool kIsZeroByDefault<Mesh::Vertex> = true;
+
+} // namespace Vorn

@@ -1,0 +1,172 @@
+#include "engine/archive/filearchivesystem.h"
+#include "engine/file/path.h"
+#include "engine/render/mesh/cachedvertexindices.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace Vorn {
+
+namespace {
+
+// No record of a mesh varies with the file's version, so a missing count must not pass for an empty array.
+constexpr std::int32_t kMissingCount = -1;
+
+// An array that is sized once from its stored count. A count below 0 ends the process.
+template <class T, class Entry>
+void SizedArray(FieldIo& io, Label countLabel, DynamicArray<T>& array, Entry entry) {
+    if (io.Reading()) {
+        array.Resize(io.ReadCount(countLabel, kMissingCount));
+        io.ReadEntries(array.Size(), [&](std::int32_t i) { entry(array[i]); });
+    } else {
+        io.WriteCount(countLabel, array.Size());
+        std::for_each(array.begin(), array.end(), entry);
+    }
+}
+
+// Takes a plain element through the record that lists its fields.
+template <class Archived, class T>
+void PlainRecord(FieldIo& io, Label label, T& element) {
+    Archived archived(element);
+    io.Record(label, archived);
+    element = archived;
+}
+
+float SquaredLength(const Vector3& v) {
+    return v.x * v.x + v.y * v.y + v.z * v.z;
+}
+
+// Written so that not a number is outside.
+bool IsWithin(float value, float tolerance) {
+    return std::fabs(value - 1.0f) <= tolerance;
+}
+
+bool IsUnitDeterminant(float determinant) {
+    return IsWithin(std::clamp(determinant, -1.0f, 1.0f), 0.01f);
+}
+
+bool IsLeftHandAndNormalized(const Matrix33& m) {
+    const Vector3 a = m.Row(0);
+    const Vector3 b = m.Row(1);
+    const Vector3 c = m.Row(2);
+    for (const Vector3& row : {a, b, c}) {
+        if (!IsWithin(SquaredLength(row), 0.2f)) {
+            return false;
+        }
+    }
+    const float byRow = a.x * (b.y * c.z - b.z * c.y) - a.y * (b.x * c.z - b.z * c.x) + a.z * (b.x * c.y - b.y * c.x);
+    const float byColumn =
+        a.x * (b.y * c.z - b.z * c.y) - b.x * (a.y * c.z - a.z * c.y) + c.x * (a.y * b.z - a.z * b.y);
+    return IsUnitDeterminant(byRow) && IsUnitDeterminant(byColumn);
+}
+
+} // namespace
+
+void Mesh::ArchivableVertex::Fields(FieldIo& io) {
+    io.Vector3(u"Position", position);
+    io.Vector3(u"Normal", normal);
+    io.Vector3(u"Tangent", tangent);
+    Color dropped;
+    io.Color(u"Color", dropped);
+    io.Float(u"U0", u0);
+    io.Float(u"V0", v0);
+    io.Float(u"U1", u1);
+    io.Float(u"V1", v1);
+}
+
+void Mesh::ArchivableTriangle::Fields(FieldIo& io) {
+    io.Uint(u"iVertex0", iVertex0);
+    io.Uint(u"iVertex1", iVertex1);
+    io.Uint(u"iVertex2", iVertex2);
+    io.Uint(u"iMaterial", iMaterial);
+}
+
+Mesh::Point Mesh::Point::Default() {
+    Point point;
+    for (int i = 0; i < 3; ++i) {
+        point.orientation(i, i) = 1.0f;
+    }
+    return point;
+}
+
+void Mesh::Point::Fields(FieldIo& io) {
+    io.String(u"DataString", name);
+    io.Vector3(u"Position", position);
+    io.Matrix33(u"Orientation", orientation);
+    if (io.Reading()) {
+        CheckAssert(IsLeftHandAndNormalized(orientation), "m_Orientation.IsLeftHandAndNormalized()");
+    }
+}
+
+void Mesh::Material::Fields(FieldIo& io) {
+    io.String(u"DiffuseTextureFileName", diffuseTextureFileName);
+    io.String(u"SelfIlluminationTextureFileName", selfIlluminationTextureFileName);
+    io.String(u"NormalTextureFileName", normalTextureFileName);
+    io.String(u"DisplacementTextureFileName", displacementTextureFileName);
+    io.String(u"TeamColorTextureFileName", teamColorTextureFileName);
+    io.Color(u"Diffuse", diffuse);
+    io.Color(u"Ambient", ambient);
+    io.Color(u"Specular", specular);
+    io.Color(u"Emissive", emissive);
+    io.Float(u"Glossiness", glossiness);
+    if (io.Reading() && SplitPath(teamColorTextureFileName.View()).stem == u"TeamLogo") {
+        isTeamLogo = true;
+    }
+}
+
+void Mesh::Data::Fields(FieldIo& io) {
+    io.Uint(u"maxDiffuseMipLevel", maxDiffuseMipLevel);
+    io.Bool(u"hasValidTangents", hasValidTangents);
+    io.Float(u"BoundingRadius", BoundingRadius);
+    io.Vector3(u"MaxBoundingExtents", MaxBoundingExtents);
+    io.Vector3(u"MinBoundingExtents", MinBoundingExtents);
+    if (io.Reading()) {
+        ComputeBoundingBox();
+    }
+    SizedArray(io, u"NumMaterials", materials, [&](Material& material) { io.Record(u"Material", material); });
+    SizedArray(io, u"NumPoints", points, [&](Point& point) { io.Record(u"Point", point); });
+    SizedArray(io, u"NumVertices", vertices,
+               [&](Vertex& vertex) { PlainRecord<ArchivableVertex>(io, u"Vertex", vertex); });
+    SizedArray(io, u"NumTriangles", triangles,
+               [&](Triangle& triangle) { PlainRecord<ArchivableTriangle>(io, u"Triangle", triangle); });
+    if (io.Writing()) {
+        ComputeCachedVertexIndices();
+    }
+    for (int i = 0; i < kDirectionCount; ++i) {
+        FixedString<64> countLabel;
+        Format(countLabel.Buffer(), u"NumCachedVertexIndicesInDirection:%s", kDirections[i].name);
+        io.ReservedList(countLabel.View(), cachedVertexIndices[i], [&](std::int32_t& index) {
+            auto number = static_cast<std::uint32_t>(index);
+            io.Uint(u"Index", number);
+            index = static_cast<std::int32_t>(number);
+        });
+    }
+}
+
+void Mesh::Data::ComputeBoundingBox() {
+    const Vector3& top = MaxBoundingExtents;
+    const Vector3& bottom = MinBoundingExtents;
+    boundingSize = {top.x - bottom.x, top.y - bottom.y, top.z - bottom.z};
+    boundingCentre = {0.5f * (bottom.x + top.x), 0.5f * (bottom.y + top.y), 0.5f * (bottom.z + top.z)};
+    boundingHalfSize = {0.5f * boundingSize.x, 0.5f * boundingSize.y, 0.5f * boundingSize.z};
+}
+
+void Mesh::Data::ComputeCachedVertexIndices() {
+    CacheVertexIndices(vertices, BoundingRadius, cachedVertexIndices);
+}
+
+void Mesh::Data::Load(FileArchiveSystem& archives, std::u16string_view path) {
+    CheckAssert(!isLoaded, "!isLoaded || g_Game.debugMenu->hotloadTextures");
+    isLoaded = true;
+    fileName.Assign(path);
+    FileArchive* archive = archives.OpenForRead(path, false);
+    if (archive == nullptr) {
+        EndAbnormally();
+    }
+    archive->Read(u"MeshData", *this);
+    version = archive->GetVersion();
+    archives.Close(archive);
+}
+
+} // namespace Vorn

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "engine/datastructures/pool.h"
+#include "engine/file/filesystem.h"
+#include "engine/render/mesh/mesh.h"
+
+namespace Vorn {
+
+// Finds meshes, keeps one for each file and counts its holders. In mock mode, which only the game uses, every mesh is
+// made up and belongs to whoever gets it.
+class MeshSystem {
+public:
+    static constexpr int kMaxMeshes = 800;
+
+    MeshSystem(FileSystem& _fileSystem, FileArchiveSystem& _archives) : fileSystem(_fileSystem), archives(_archives) {}
+    MeshSystem(const MeshSystem&) = delete;
+    MeshSystem& operator=(const MeshSystem&) = delete;
+    ~MeshSystem() { FreeAll(); }
+
+    // The mesh of a file that FindMeshFile finds, with one more reference; null, after a report, if there is none.
+    Mesh* GetMesh(std::u16string_view name, const Mesh::LoadParams& loadParams);
+
+    // Takes one reference back; a mock mesh is destroyed. Null ends the process abnormally after its check.
+    void ReleaseMesh(Mesh* mesh);
+
+    // Takes a name that exists as it stands; else looks for a data file with the name's stem and the ending ".mesh".
+    bool FindMeshFile(DataPath& result, std::u16string_view name) const;
+
+    // Frees every mesh, whoever still holds one.
+    void FreeAll();
+
+    // The sub path of data folders that meshes are looked for in; with one, no name is taken as it stands.
+    void SetMeshDirectory(std::u16string_view path) { meshDirectory.Assign(path); }
+
+    // Whether GetMesh reads the file of a mesh that is not loaded yet.
+    void SetLoadDataOnGet(bool on) { loadDataOnGet = on; }
+
+    // From here on GetMesh makes up meshes of this radius that have the points added here.
+    void EnterMockMode(float boundingRadius);
+    void AddMockPoint(std::u16string_view name) { mockPointNames.Append().Assign(name); }
+    bool IsMock() const { return mockMode; }
+
+    int MeshCount() const { return m_MeshPtrVector.Size(); }
+    float GetLoadSeconds() const { return loadSeconds; }
+
+private:
+    static constexpr int kPoolSize = 32;
+    static constexpr int kMaxMockPoints = 32;
+
+    Mesh* MakeMockMesh(std::u16string_view name) const;
+    Mesh* FindOrAddMesh(const DataPath& path, const Mesh::LoadParams& loadParams);
+    void LoadTimed(Mesh& mesh);
+    void Free(int i);
+
+    FileSystem& fileSystem;
+    FileArchiveSystem& archives;
+    FixedVector<Mesh*, kMaxMeshes> m_MeshPtrVector;
+    Pool<Mesh, kPoolSize> pool;
+    DataPath meshDirectory;
+    bool loadDataOnGet = true;
+    bool mockMode = false;
+    float mockRadius = 0.0f;
+    FixedVector<FixedString<256>, kMaxMockPoints> mockPointNames;
+    float loadSeconds = 0.0f;
+};
+
+} // namespace Vorn

@@ -1,0 +1,69 @@
+#include "gs/entity/entitysystem.h"
+
+#include "engine/archive/filearchivesystem.h"
+#include "engine/core/reporting.h"
+#include "engine/file/path.h"
+#include "gs/entity/entitytypes.h"
+
+namespace Vorn {
+
+namespace {
+
+// Units of a stem before it is told too long; the report shows no more.
+constexpr std::size_t kStemLimit = 255;
+
+void TransferType(FieldIo& io, EntityType& type) {
+    auto number = static_cast<std::int32_t>(type);
+    io.EnumNumber(u"entityType", number, kEntityTypeTable);
+    type = static_cast<EntityType>(number);
+}
+
+} // namespace
+
+std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path) {
+    FileArchive* archive = archives.OpenForRead(path, false);
+    if (archive == nullptr) {
+        return nullptr;
+    }
+    FieldIo io(*archive, FieldIo::Direction::Read);
+    EntityType type = EntityType::Invalid;
+    TransferType(io, type);
+    std::unique_ptr<EntityDef> definition = CreateNamed(type, path);
+    if (definition != nullptr) {
+        definition->Fields(io);
+    }
+    entityDefArchiveSum += archive->GetCheckSum();
+    archives.Close(archive);
+    return definition;
+}
+
+std::unique_ptr<EntityDef> EntitySystem::CreateNamed(EntityType type, std::u16string_view path) {
+    const std::u16string_view stem = SplitPath(path).stem;
+    if (stem.size() >= EntityDefName::kCapacity) {
+        ReportError(u"EntityDefName is too long: %s\n", stem.substr(0, kStemLimit));
+        return nullptr;
+    }
+    return CreateEntityDef(type, stem);
+}
+
+std::unique_ptr<EntityDef> EntitySystem::CreateEntityDef(EntityType type, std::u16string_view name) {
+    const EntityTypeRow* row = FindEntityType(type);
+    const bool hasClass = row != nullptr && row->make != nullptr;
+    CheckAssert(hasClass, "false");
+    if (!hasClass) {
+        return nullptr;
+    }
+    std::unique_ptr<EntityDef> definition = row->make();
+    definition->entityType = type;
+    definition->name.SetText(name);
+    return definition;
+}
+
+void EntitySystem::WriteEntityDef(Archive& archive, const EntityDef& definition) {
+    FieldIo io(archive, FieldIo::Direction::Write);
+    EntityType type = definition.GetEntityType();
+    TransferType(io, type);
+    definition.Write(archive);
+}
+
+} // namespace Vorn

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+#include <memory>
+
+namespace Vorn {
+
+// A row of the factory: a type's text in files and the maker of its class, null for a type that no file may have.
+struct EntityTypeRow {
+    std::u16string_view text;
+    std::unique_ptr<EntityDef> (*make)();
+};
+
+inline constexpr int kEntityTypeCount = 47;
+
+// The row of a type; null for a type out of range.
+const EntityTypeRow* FindEntityType(EntityType type);
+
+extern const EnumTable kEntityTypeTable;
+
+} // namespace Vorn

@@ -1,0 +1,16 @@
+#include "gs/entity/interfaces/iabilitycontainerdef.h"
+
+namespace Vorn {
+
+namespace {
+constexpr Label kSlotLabels[IAbilityContainerDef::kSlotCount] = {u"ability:0", u"ability:1", u"ability:2", u"ability:3",
+                                                                 u"ability:4"};
+}
+
+void IAbilityContainerDef::Fields(FieldIo& io) {
+    for (int i = 0; i < kSlotCount; ++i) {
+        io.Value(kSlotLabels[i], abilities[i]);
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "engine/datastructures/fixedarray.h"
+#include "gs/entity/support/entitydefname.h"
+
+namespace Vorn {
+
+// The abilities of an entity, by slot; an empty name is a free slot.
+struct IAbilityContainerDef : Record {
+    static constexpr int kSlotCount = 5;
+
+    FixedArray<EntityDefName, kSlotCount> abilities;
+
+    void Fields(FieldIo& io) override;
+};
+
+} // namespace Vorn

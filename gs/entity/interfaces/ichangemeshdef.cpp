@@ -1,0 +1,20 @@
+#include "gs/entity/interfaces/ichangemeshdef.h"
+
+namespace Vorn {
+
+void ChangeMeshFields::Fields(FieldIo& io) {
+    io.BoundedList(u"MeshNameInfoCount", meshNameInfos, [&](MeshNameInfo& info) { io.Record(u"MeshNameInfo", info); });
+    io.Value(u"meshNameIncreasedEffectName", meshNameIncreasedEffectName);
+    io.Value(u"meshNameDecreasedEffectName", meshNameDecreasedEffectName);
+    if (io.Reading()) {
+        CheckUnconditionalMeshes();
+    }
+}
+
+void ChangeMeshFields::CheckUnconditionalMeshes() const {
+    for (int i = 1; i < meshNameInfos.Size(); ++i) {
+        CheckAssert(meshNameInfos[i].criteriaType != CriteriaType::None, "false");
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "gs/entity/support/sharedenums.h"
+
+namespace Vorn {
+
+// What has hull and armor. Each mesh of specific debris that is read is looked up as a file and reported if there is
+// none; its name stays.
+struct IDamageDefinition : Record {
+    std::uint32_t numRandomDebrisLarge = 0;
+    std::uint32_t numRandomDebrisSmall = 0;
+    FixedVector<FixedString<256>, 2> specificDebrisMeshNames;
+    ArmorType armorType = ArmorType::Invalid;
+
+    void Fields(FieldIo& io) override;
+
+private:
+    void ReportMissingMeshes() const;
+};
+
+} // namespace Vorn

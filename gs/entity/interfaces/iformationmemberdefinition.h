@@ -1,0 +1,14 @@
+#pragma once
+
+#include "engine/archive/record.h"
+
+namespace Vorn {
+
+// Where a ship stands in a formation.
+struct IFormationMemberDefinition : Record {
+    std::uint32_t formationRank = 0;
+
+    void Fields(FieldIo& io) override;
+};
+
+} // namespace Vorn

@@ -1,0 +1,43 @@
+#include "gs/entity/interfaces/iplayerdef.h"
+
+#include "engine/archive/archiveversion.h"
+
+namespace Vorn {
+
+void IPlayerDef::Fields(FieldIo& io) {
+    NameFields(io);
+    io.Bool(u"canColonize", canColonize);
+    RaceTypeField(io);
+    io.Bool(u"isSelectable", isSelectable);
+    io.Uint(u"selectablePriorty", selectablePriority);
+    io.String(u"randomCapitalShipNamePrefix", randomCapitalShipNamePrefix);
+    io.String(u"randomStarBaseNamePrefix", randomStarBaseNamePrefix);
+    io.Record(u"entities", entities);
+    io.Block(data);
+    io.Block(diplomacy);
+    io.BoundedList(u"numResearchFields", researchFields, [&](FixedString<256>& field) { io.String(u"field", field); });
+    io.String(u"playerThemeGroupName", playerThemeGroupName);
+    io.String(u"playerPictureGroupName", playerPictureGroupName);
+    io.SizedList(u"raceRelationsModCount", raceRelations,
+                 [&](RaceRelationsModifier& modifier) { io.Record(u"raceRelationsModifier", modifier); });
+    GetPlayerSystem().TransferFaction(io, u"defaultFactionNameID", defaultFaction);
+}
+
+void IPlayerDef::NameFields(FieldIo& io) {
+    io.String(u"raceNameStringID", raceNameStringID);
+    if (io.Reading()) {
+        race = GetPlayerSystem().races.Resolve(raceNameStringID.View());
+    }
+}
+
+void IPlayerDef::RaceTypeField(FieldIo& io) {
+    if (io.Since(kRaceTypeVersion)) {
+        io.Enum(u"playerRaceType", playerRaceType);
+        return;
+    }
+    Bool isPsi;
+    io.Bool(u"isPsi", isPsi);
+    playerRaceType = isPsi ? PlayerRaceType::Psi : PlayerRaceType::Other;
+}
+
+} // namespace Vorn

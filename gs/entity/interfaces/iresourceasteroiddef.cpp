@@ -1,0 +1,21 @@
+#include "gs/entity/interfaces/iresourceasteroiddef.h"
+
+namespace Vorn {
+
+void IResourceAsteroidDef::Fields(FieldIo& io) {
+    io.Enum(u"resource", resource);
+    io.Block(hud);
+    io.Value(u"mainViewIcon", mainViewIcon);
+    io.Value(u"picture", picture);
+    io.BoundedList(u"meshNameCount", meshNames, [&](FixedString<256>& name) { io.String(u"meshName", name); });
+    io.String(u"nameStringID", nameStringID);
+    io.String(u"descStringID", descStringID);
+    io.Float(u"nearPlacementDistOffset", nearPlacementDistOffset);
+    io.Float(u"farPlacementDistOffset", farPlacementDistOffset);
+    if (io.Reading()) {
+        CheckAssert(nearPlacementDistOffset >= 0.0f, "nearPlacementDistOffset >= 0.f");
+        CheckAssert(farPlacementDistOffset >= 0.0f, "farPlacementDistOffset >= 0.f");
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,10 @@
+#include "gs/entity/interfaces/ishielddefinition.h"
+
+namespace Vorn {
+
+void IShieldDefinition::Fields(FieldIo& io) {
+    io.String(u"ShieldMeshName", shieldMeshName);
+    io.Bool(u"renderShield", renderShield);
+}
+
+} // namespace Vorn

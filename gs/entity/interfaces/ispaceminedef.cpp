@@ -1,0 +1,14 @@
+#include "gs/entity/interfaces/ispaceminedef.h"
+
+namespace Vorn {
+
+void ISpaceMineDef::Fields(FieldIo& io) {
+    io.Float(u"spawnActivationDelay", spawnActivationDelay);
+    io.Float(u"targetStartFollowRange", targetStartFollowRange);
+    io.Float(u"targetMaxFollowRange", targetMaxFollowRange);
+    io.String(u"nameStringID", nameStringID);
+    io.Record(u"scuttleValue", scuttleValue);
+    io.Float(u"baseScuttleTime", baseScuttleTime);
+}
+
+} // namespace Vorn

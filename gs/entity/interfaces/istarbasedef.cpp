@@ -1,0 +1,16 @@
+#include "gs/entity/interfaces/istarbasedef.h"
+
+namespace Vorn {
+
+void IStarBaseDef::Fields(FieldIo& io) {
+    io.Value(u"mainViewIcon", mainViewIcon);
+    io.Float(u"experiencePointsForDestroying", experiencePointsForDestroying);
+    io.String(u"nameStringID", nameStringID);
+    io.Value(u"picture", picture);
+    io.Enum(u"statCountType", statCountType);
+    io.Value(u"creationSourceAbility", creationSourceAbility);
+    io.Uint(u"maxUpgradeLevelCount", maxUpgradeLevelCount);
+    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, [&](EntityDefName& type) { io.Value(u"UpgradeType", type); });
+}
+
+} // namespace Vorn

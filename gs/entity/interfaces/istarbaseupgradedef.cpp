@@ -1,0 +1,13 @@
+#include "gs/entity/interfaces/istarbaseupgradedef.h"
+
+namespace Vorn {
+
+void IStarBaseUpgradeDef::Fields(FieldIo& io) {
+    io.BoundedList(u"stageCount", stages, [&](StarBaseUpgradeStageDef& stage) { io.Record(u"stage", stage); });
+    io.Float(u"xpModifier", xpModifier);
+    if (io.Reading()) {
+        CheckAssert(stages.Size() > 0, "stages.Size() > 0");
+    }
+}
+
+} // namespace Vorn

@@ -1,0 +1,11 @@
+#include "gs/entity/interfaces/ititandefinition.h"
+
+namespace Vorn {
+
+void ITitanDefinition::Fields(FieldIo& io) {
+    ILargeShipDefinition::Fields(io);
+    io.Enum(u"statCountType", statCountType);
+    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, [&](EntityDefName& type) { io.Value(u"UpgradeType", type); });
+}
+
+} // namespace Vorn

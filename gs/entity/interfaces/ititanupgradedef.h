@@ -1,0 +1,14 @@
+#pragma once
+
+#include "gs/entity/support/titanupgradestagedef.h"
+
+namespace Vorn {
+
+// An upgrade of a titan in at most 10 stages. A check wants at least one.
+struct ITitanUpgradeDef : Record {
+    FixedVector<TitanUpgradeStageDef, 10> stages;
+
+    void Fields(FieldIo& io) override;
+};
+
+} // namespace Vorn

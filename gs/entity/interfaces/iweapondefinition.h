@@ -1,0 +1,45 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "engine/datastructures/fixedarray.h"
+#include "gs/entity/support/damageinfoenums.h"
+#include "gs/entity/support/weaponeffectsdef.h"
+#include "gs/research/researchprerequisites.h"
+
+namespace Vorn {
+
+enum class WeaponFireConstaintType : std::int32_t { Invalid = -1, CanAlwaysFire, Research, StarBaseUpgradeLevel };
+
+inline constexpr std::u16string_view kWeaponFireConstaintTypeRows[] = {u"CanAlwaysFire", u"Research",
+                                                                       u"StarBaseUpgradeLevel"};
+template <>
+inline constexpr EnumTable kEnumTable<WeaponFireConstaintType> =
+    MakeTable<WeaponFireConstaintType::StarBaseUpgradeLevel>("WeaponFireConstaintType", kWeaponFireConstaintTypeRows);
+
+inline constexpr int kWeaponBankCount = kEnumTable<WeaponBank>.rowCount;
+
+// One weapon of an owner. Speed and duration that do not suit its type are reported and kept.
+struct IWeaponDefinition : Record {
+    WeaponType weaponType = WeaponType::Invalid;
+    DamageInfoEnums damageEnums;
+    FixedArray<float, kWeaponBankCount> damagePerBank;
+    float range = 0.0f;
+    float preBuffCooldownTime = 0.0f;
+    Bool canFireAtFighter;
+    Bool synchronizedTargeting;
+    float pointStaggerDelay = 0.0f;
+    float travelSpeed = 0.0f;
+    float duration = 0.0f;
+    WeaponFireConstaintType fireConstraintType = WeaponFireConstaintType::Invalid;
+    ResearchPrerequisites researchPrerequisites;
+    std::uint32_t requiredStarBaseWeaponLevel = 0;
+    WeaponEffectsDef weaponEffects;
+
+    void Fields(FieldIo& io) override;
+
+private:
+    void FireConstraintFields(FieldIo& io);
+    void CheckValues() const;
+};
+
+} // namespace Vorn

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "gs/entity/support/entitydefname.h"
+
+namespace Vorn {
+
+// The cargo ships that a structure sends out and replaces.
+struct CargoShipControllerDef : Record {
+    EntityDefName cargoShipType;
+    std::uint32_t maxCargoShipCount = 0;
+    float cargoShipRespawnTime = 0.0f;
+
+    void Fields(FieldIo& io) override;
+};
+
+} // namespace Vorn

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "engine/archive/archivable.h"
+#include "engine/archive/record.h"
+#include "engine/datastructures/dynamicvector.h"
+#include "engine/datastructures/fixedvector.h"
+
+namespace Vorn {
+
+// The reference by name from one definition to another, at most 79 units; empty when there is none. A text "Invalid" in
+// a file counts as empty and is written as such.
+class EntityDefName : public SingleLineArchivable {
+public:
+    static constexpr int kCapacity = 80;
+
+    void Read(Label label, Archive& archive) override;
+    void Write(Label label, Archive& archive) const override;
+
+    bool IsValid() const { return !text.IsEmpty(); }
+    const FixedString<kCapacity>& GetText() const { return text; }
+    void SetText(std::u16string_view name) { text.Assign(name); }
+
+private:
+    static constexpr std::int32_t kUnresolved = -1;
+
+    FixedString<kCapacity> text;
+    // The running game's cache of what the name stands for.
+    std::int32_t index = kUnresolved;
+};
+
+// A list of names without a limit.
+class EntityDefNameDynamicVector : public Record {
+public:
+    void Fields(FieldIo& io) override;
+
+    const DynamicVector<EntityDefName>& GetNames() const { return names; }
+
+private:
+    DynamicVector<EntityDefName> names;
+};
+
+// A list of at most N names; a surplus only fires the vector's check.
+template <int N>
+class GroupedEntityDefNames : public Record {
+public:
+    void Fields(FieldIo& io) override {
+        io.CappedList(u"count", names, [&](EntityDefName& name) { io.Value(u"entityDefName", name); });
+    }
+
+private:
+    FixedVector<EntityDefName, N> names;
+};
+
+} // namespace Vorn

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "gs/entity/entitydef.h"
+
+namespace Vorn {
+
+// A lane between two planets. It has no fields: its file says no more than its type.
+struct PlanetConnectionDef : EntityDef {
+    void Fields(FieldIo&) override {}
+};
+
+} // namespace Vorn

@@ -1,0 +1,12 @@
+#include "gs/player/playerdebrisdata.h"
+
+namespace Vorn {
+
+void PlayerDebrisData::Fields(FieldIo& io) {
+    // Both lists have the same key for their entries.
+    const auto meshName = [&](FixedString<256>& name) { io.String(u"randomMeshName", name); };
+    io.BoundedList(u"numRandomMeshNamesLarge", randomMeshNamesLarge, meshName);
+    io.BoundedList(u"numRandomMeshNamesSmall", randomMeshNamesSmall, meshName);
+}
+
+} // namespace Vorn

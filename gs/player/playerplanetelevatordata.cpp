@@ -1,0 +1,19 @@
+#include "gs/player/playerplanetelevatordata.h"
+
+namespace Vorn {
+
+namespace {
+
+constexpr Label kMeshNameLabels[] = {
+    u"elevatorMeshName:TaxCenter",        u"elevatorMeshName:CultureCenter", u"elevatorMeshName:MetalExtractor",
+    u"elevatorMeshName:CrystalExtractor", u"elevatorMeshName:Bunker",        u"elevatorMeshName:GoodsFactory",
+    u"elevatorMeshName:ProductionCenter",
+};
+
+} // namespace
+
+void PlayerPlanetElevatorData::Fields(FieldIo& io) {
+    io.LabelledArray(kMeshNameLabels, meshNames, [&](Label label, FixedString<256>& name) { io.String(label, name); });
+}
+
+} // namespace Vorn

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "engine/core/abnormalend.h"
+#include "engine/datastructures/fixedvector.h"
+
+namespace Vorn {
+
+// Appends a fresh element to a list that no file may overflow: one too many fires the vector's check and ends the
+// process abnormally.
+template <class T, int N>
+T& AppendOrEnd(FixedVector<T, N>& list) {
+    const bool hasRoom = list.Size() < N;
+    T& element = list.Append();
+    if (!hasRoom) {
+        EndAbnormally();
+    }
+    return element;
+}
+
+} // namespace Vorn

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "engine/archive/namedreference.h"
+
+namespace Vorn {
+
+// How other records name a particle effect.
+class ParticleSimulationDefinitionRef : public NamedReference<256> {};
+
+} // namespace Vorn

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "engine/archive/record.h"
+#include "gs/entity/support/entitydefname.h"
+#include "gs/entity/support/researchenums.h"
+
+namespace Vorn {
+
+// Something that research allows or brings about. Some types need to be told what. The faction stays a plain name here.
+struct ResearchBoolModifierTable : Record {
+    ResearchBoolModifierType modifierType = ResearchBoolModifierType::Invalid;
+    ResearchPlanetType linkedPlanetType = ResearchPlanetType::Invalid;
+    AllianceType allianceType = AllianceType::Invalid;
+    EntityDefName pactUnlockEntityDefName;
+    FixedString<256> factionNameID;
+    EntityDefName researchUnlockDefName;
+    EntityDefName buffToApply;
+
+    void Fields(FieldIo& io) override;
+
+    bool IsVictory() const;
+};
+
+} // namespace Vorn

@@ -1,0 +1,25 @@
+#include "gs/research/researchprerequisites.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+void ResearchPrerequisite::Fields(FieldIo& io) {
+    io.Value(u"Subject", subject);
+    io.Uint(u"Level", level);
+}
+
+void ResearchPrerequisites::Fields(FieldIo& io) {
+    io.BoundedList(u"NumResearchPrerequisites", prerequisites,
+                   [&](ResearchPrerequisite& prerequisite) { io.Record(u"ResearchPrerequisite", prerequisite); });
+    GetPlayerSystem().factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
+    io.Uint(u"RequiredCompletedResearchSubjects", requiredCompletedResearchSubjects);
+}
+
+bool ResearchPrerequisites::HasSubject(const EntityDefName& subject) const {
+    return std::ranges::any_of(prerequisites, [&](const ResearchPrerequisite& prerequisite) {
+        return prerequisite.subject.GetText().View() == subject.GetText().View();
+    });
+}
+
+} // namespace Vorn

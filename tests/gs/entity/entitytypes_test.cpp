@@ -1,0 +1,61 @@
+#include "gs/entity/entitytypes.h"
+
+#include "gs/entity/entitysystem.h"
+#include "tests/support/enginetest.h"
+
+namespace Vorn {
+
+class EntityTypesTest : public FileTest {
+protected:
+    std::string WriteFile(const EntityDef& definition, std::string_view fileName, FileArchiveType form) {
+        FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn(fileName), false, form);
+        EntitySystem::WriteEntityDef(*archive, definition);
+        core->fileArchiveSystem.Close(archive);
+        return ReadBytes(folder.Path() / fileName).value_or("");
+    }
+
+    // What a file comes out as in another form; empty if it has no definition.
+    std::string ConvertFile(std::string_view from, std::string_view to, FileArchiveType form) {
+        EntitySystem entitySystem(core->fileArchiveSystem);
+        const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(NameIn(from));
+        return definition != nullptr ? WriteFile(*definition, to, form) : "";
+    }
+
+    // Empty contents fail checks of what a definition should hold. Any other report means that reading and writing are
+    // out of step.
+    void ExpectChecksAlone() {
+        for (const std::string& report : TakeReports()) {
+            EXPECT_EQ(report.rfind("assert! [", 0), 0) << report;
+        }
+    }
+};
+
+TEST_F(EntityTypesTest, EachTypeHasItsClassButTwo) {
+    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+        const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
+        ASSERT_NE(row, nullptr);
+        const bool isRefused = row->text == u"PlanetModuleSpaceMine" || row->text == u"PlanetModuleUserAbilityModule";
+        EXPECT_EQ(row->make == nullptr, isRefused) << Utf8(row->text);
+    }
+    EXPECT_EQ(FindEntityType(EntityType::Invalid), nullptr);
+    EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeCount)), nullptr);
+}
+
+TEST_F(EntityTypesTest, AnEmptyDefinitionOfEachTypeSurvivesBothForms) {
+    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+        const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
+        if (row->make == nullptr) {
+            continue;
+        }
+        SCOPED_TRACE(Utf8(row->text));
+        EntitySystem entitySystem(core->fileArchiveSystem);
+        const auto definition = entitySystem.CreateEntityDef(static_cast<EntityType>(i), u"empty");
+        const std::string text = WriteFile(*definition, "text", FileArchiveType::Text);
+        const std::string binary = WriteFile(*definition, "binary", FileArchiveType::Binary);
+        EXPECT_EQ(ConvertFile("text", "binaryagain", FileArchiveType::Binary), binary);
+        EXPECT_EQ(ConvertFile("binaryagain", "textagain", FileArchiveType::Text), text);
+        ExpectChecksAlone();
+    }
+}
+
+} // namespace Vorn

@@ -281,7 +281,7 @@ void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
 }
 
 // The line of a label alone.
-bool TextFileArchive::FindRecord(Label label) {
+VORN_ALWAYS_INLINE bool TextFileArchive::FindRecord(Label label) {
     return TakePlain(label, [](PlainScanner&) {}) || FindLabel(label) != nullptr;
 }
 

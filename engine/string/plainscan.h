@@ -27,7 +27,7 @@ public:
         if (other == 0) [[unlikely]] {
             return Fail();
         }
-        cursor += std::countr_zero(other) / 8;
+        cursor += BytesBelow(other);
         return *this;
     }
 
@@ -57,12 +57,12 @@ public:
         const char* start = cursor + (negative ? 1 : 0);
         const std::uint64_t digits = WordAt(start) ^ kEachByte * '0';
         const std::uint64_t others = BeyondNine(digits);
-        const int bits = std::countr_zero(others) - 7;
-        if (others == 0 || bits == 0) [[unlikely]] {
+        const std::size_t count = BytesBelow(others);
+        if (others == 0 || count == 0) [[unlikely]] {
             return Fail();
         }
-        cursor = start + bits / 8;
-        const auto magnitude = static_cast<std::int32_t>(SumOfDigits(digits << (64 - bits)));
+        cursor = start + count;
+        const auto magnitude = static_cast<std::int32_t>(SumOfDigits(digits << (64 - 8 * count)));
         value = negative ? -magnitude : magnitude;
         return *this;
     }
@@ -73,6 +73,9 @@ public:
         const bool negative = *cursor == '-';
         const char* start = cursor + (negative ? 1 : 0);
         std::uint64_t number = DigitAt(start);
+        if (number >= 10) [[unlikely]] {
+            return Fail();
+        }
         const char* point = start + 1;
         for (std::uint32_t digit = DigitAt(point); digit < 10; digit = DigitAt(point)) {
             number = number * 10 + digit;
@@ -167,6 +170,9 @@ private:
         }
         return swapped;
     }
+
+    // How many bytes there are below the lowest one that has a bit.
+    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
 
     // The top bit of each byte beyond 9, up to the first one and with it; behind a byte that is not, anything.
     VORN_ALWAYS_INLINE static std::uint64_t BeyondNine(std::uint64_t digits) {

@@ -77,13 +77,13 @@ public:
             return Fail();
         }
         const char* point = start + 1;
-        for (std::uint32_t digit = DigitAt(point); digit < 10; digit = DigitAt(point)) {
+        const char* limit = start + 9;
+        for (std::uint32_t digit = DigitAt(point); digit < 10 && point != limit; digit = DigitAt(point)) {
             number = number * 10 + digit;
             ++point;
         }
-        // The last digit ahead of the point, the point as a 0, and the decimals.
-        const std::uint64_t digits = WordAt(point - 1) ^ (kEachByte * '0' ^ std::uint64_t{'.' ^ '0'} << 8);
-        if ((BeyondNine(digits) | (digits & kPointByte)) != 0 || point - start > 9) [[unlikely]] {
+        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
+        if (((digits | (digits + kBeyondNine)) & kWrongBits) != 0) [[unlikely]] {
             return Fail();
         }
         const std::uint64_t millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
@@ -142,8 +142,14 @@ public:
 private:
     static constexpr std::size_t kLongestWord = kPlainSlack - 2 * kWidenBlock;
     static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
-    static constexpr std::uint64_t kPointByte = 0xFF00;
     static constexpr std::uint64_t kEachByte = 0x0101010101010101;
+
+    // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
+    // is added takes a digit beyond 9 to its top bit; of the point every bit is wrong.
+    static constexpr std::uint64_t kPointByte = 0xFF00;
+    static constexpr std::uint64_t kPointAndSix = kEachByte * '0' ^ std::uint64_t{'0' ^ '.'} << 8;
+    static constexpr std::uint64_t kBeyondNine = kEachByte * (0x7F - 9) & ~kPointByte;
+    static constexpr std::uint64_t kWrongBits = kEachByte * 0x80 | kPointByte;
 
     // No step fits what follows but an empty word or text.
     static constexpr char kNothing[kPlainSlack] = {};

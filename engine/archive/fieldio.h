@@ -85,8 +85,8 @@ public:
 
     // Keeps as many elements as the list has room for. The surplus is reported once, ahead of the elements, and is
     // read and dropped, so that the fields behind it line up.
-    template <class T, int N, class Entry>
-    void BoundedList(Label countLabel, FixedVector<T, N>& list, Entry entry) {
+    template <template <class, int> class List, class T, int N, class Entry>
+    void BoundedList(Label countLabel, List<T, N>& list, Entry entry) {
         if (reading) {
             const std::int32_t count = ReadCount(countLabel);
             if (count > N) {
@@ -187,8 +187,8 @@ private:
         }
     }
 
-    template <class T, int N, class Entry, class OnSurplus>
-    void ReadLimited(std::int32_t count, FixedVector<T, N>& list, Entry entry, OnSurplus onSurplus) {
+    template <template <class, int> class List, class T, int N, class Entry, class OnSurplus>
+    void ReadLimited(std::int32_t count, List<T, N>& list, Entry entry, OnSurplus onSurplus) {
         list.Clear();
         ReadEntries(count, [&](std::int32_t i) {
             if (i < N) {

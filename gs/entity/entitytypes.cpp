@@ -1,5 +1,7 @@
 #include "gs/entity/entitytypes.h"
 
+#include "gs/entity/types/abilitydef.h"
+#include "gs/entity/types/buffdef.h"
 #include "gs/entity/types/cannonshelldef.h"
 #include "gs/entity/types/capitalshipdef.h"
 #include "gs/entity/types/cosmeticdef.h"
@@ -10,6 +12,7 @@
 #include "gs/entity/types/fleetdef.h"
 #include "gs/entity/types/formationdef.h"
 #include "gs/entity/types/frigatedef.h"
+#include "gs/entity/types/missiondefs.h"
 #include "gs/entity/types/pipclouddef.h"
 #include "gs/entity/types/planetbonusdef.h"
 #include "gs/entity/types/planetconnectiondef.h"
@@ -21,6 +24,7 @@
 #include "gs/entity/types/planetmoduleorbit_tradeportdef.h"
 #include "gs/entity/types/planetmoduleorbit_weapondefensedef.h"
 #include "gs/entity/types/playerdef.h"
+#include "gs/entity/types/questdef.h"
 #include "gs/entity/types/researchsubjectdef.h"
 #include "gs/entity/types/resourceasteroiddef.h"
 #include "gs/entity/types/spaceminedef.h"
@@ -30,6 +34,7 @@
 #include "gs/entity/types/stardef.h"
 #include "gs/entity/types/titandef.h"
 #include "gs/entity/types/titanupgradedef.h"
+#include "gs/entity/types/triggerdef.h"
 #include "gs/entity/types/weapondef.h"
 
 #include <array>
@@ -45,8 +50,8 @@ std::unique_ptr<EntityDef> Make() {
 
 // The order is kept for good: other tables number the types by it.
 constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
-    {u"Ability", nullptr},
-    {u"Buff", nullptr},
+    {u"Ability", Make<AbilityDef>},
+    {u"Buff", Make<BuffDef>},
     {u"EmpireWindowNode", Make<EmpireWindowNodeDef>},
     {u"Fighter", Make<FighterDef>},
     {u"Squad", Make<SquadDef>},
@@ -59,14 +64,14 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"Fleet", Make<FleetDef>},
     {u"Formation", Make<FormationDef>},
     {u"Frigate", Make<FrigateDef>},
-    {u"MissionAttackPlanet", nullptr},
-    {u"MissionCaptureResources", nullptr},
-    {u"MissionColonize", nullptr},
-    {u"MissionDefendFlagship", nullptr},
-    {u"MissionBuildStarBase", nullptr},
-    {u"MissionBuildMines", nullptr},
-    {u"MissionExplore", nullptr},
-    {u"MissionRaid", nullptr},
+    {u"MissionAttackPlanet", Make<Mission_AttackPlanetDef>},
+    {u"MissionCaptureResources", Make<Mission_CaptureResourcesDef>},
+    {u"MissionColonize", Make<Mission_ColonizeDef>},
+    {u"MissionDefendFlagship", Make<Mission_DefendFlagshipDef>},
+    {u"MissionBuildStarBase", Make<Mission_BuildStarBaseDef>},
+    {u"MissionBuildMines", Make<Mission_BuildMinesDef>},
+    {u"MissionExplore", Make<Mission_ExploreDef>},
+    {u"MissionRaid", Make<Mission_RaidDef>},
     {u"PipCloud", Make<PipCloudDef>},
     {u"Planet", Make<PlanetDef>},
     {u"PlanetBonus", Make<PlanetBonusDef>},
@@ -80,7 +85,7 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"PlanetModuleUserAbilityModule", nullptr},
     {u"PlanetModuleWeaponDefense", Make<PlanetModuleOrbit_WeaponDefenseDef>},
     {u"Player", Make<PlayerDef>},
-    {u"Quest", nullptr},
+    {u"Quest", Make<QuestDef>},
     {u"ResearchSubject", Make<ResearchSubjectDef>},
     {u"ResourceAsteroid", Make<ResourceAsteroidDef>},
     {u"SpaceMine", Make<SpaceMineDef>},
@@ -89,9 +94,9 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"StarBaseUpgrade", Make<StarBaseUpgradeDef>},
     {u"Titan", Make<TitanDef>},
     {u"TitanUpgrade", Make<TitanUpgradeDef>},
-    {u"MissionFosterRelationships", nullptr},
-    {u"Trigger", nullptr},
-    {u"MissionCaptureMinorFaction", nullptr},
+    {u"MissionFosterRelationships", Make<Mission_FosterRelationshipsDef>},
+    {u"Trigger", Make<TriggerDef>},
+    {u"MissionCaptureMinorFaction", Make<Mission_CaptureMinorFactionDef>},
 };
 
 constexpr auto kEntityTypeTexts = [] {

@@ -1,5 +1,7 @@
 #include "gs/research/researchprerequisites.h"
 
+#include <algorithm>
+
 namespace Vorn {
 
 void ResearchPrerequisite::Fields(FieldIo& io) {
@@ -12,6 +14,12 @@ void ResearchPrerequisites::Fields(FieldIo& io) {
                    [&](ResearchPrerequisite& prerequisite) { io.Record(u"ResearchPrerequisite", prerequisite); });
     GetPlayerSystem().factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
     io.Uint(u"RequiredCompletedResearchSubjects", requiredCompletedResearchSubjects);
+}
+
+bool ResearchPrerequisites::HasSubject(const EntityDefName& subject) const {
+    return std::ranges::any_of(prerequisites, [&](const ResearchPrerequisite& prerequisite) {
+        return prerequisite.subject.GetText().View() == subject.GetText().View();
+    });
 }
 
 } // namespace Vorn

@@ -21,6 +21,8 @@ struct ResearchPrerequisites : Record {
     std::uint32_t requiredCompletedResearchSubjects = 0;
 
     void Fields(FieldIo& io) override;
+
+    bool HasSubject(const EntityDefName& subject) const;
 };
 
 } // namespace Vorn

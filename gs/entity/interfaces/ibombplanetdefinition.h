@@ -6,7 +6,8 @@
 
 namespace Vorn {
 
-// How a ship bombs planets; nothing more is stored of one that cannot. The angle variance is stored as it is.
+// How a ship bombs planets; of one that cannot only canBomb is stored. The angle variance is the same number here and
+// in files.
 struct IBombPlanetDefinition : Record {
     Bool canBomb;
     Bool hasBombingLevels;

@@ -35,7 +35,8 @@ inline constexpr std::u16string_view kFrigateRoleTypeRows[] = {u"Scout",
 template <>
 inline constexpr EnumTable kEnumTable<FrigateRoleType> = MakeTable("FrigateRoleType", kFrigateRoleTypeRows);
 
-// What a frigate is for, what it costs and how strong it is, at each level or once for all.
+// What a frigate is for, what it costs and how strong it is, at each level or once for all. Of more than three roles
+// the first three stay, and a check tells of each further one.
 struct IFrigateDefinition : Record {
     FixedVector<FrigateRoleType, 3> frigateRoleTypes;
     PlayerEntityCountType statCountType = PlayerEntityCountType::Invalid;
@@ -55,6 +56,7 @@ struct IFrigateDefinition : Record {
     BuffLevelFloatTable shieldPointRestoreRate;
     BuffLevelFloatTable baseArmorPoints;
     BuffLevelFloatTable maxMitigation;
+    // 0 in files older than kRelationshipChangeRateVersion.
     BuffLevelFloatTable relationshipChangeRate;
     ResearchPrerequisites prerequisites;
 

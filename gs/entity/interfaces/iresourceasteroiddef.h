@@ -6,7 +6,8 @@
 
 namespace Vorn {
 
-// An asteroid that holds a resource. Checks want both distances of placement at 0 or above.
+// An asteroid that holds a resource, with up to two meshes to choose from. Checks want both distances of placement at 0
+// or above.
 struct IResourceAsteroidDef : Record {
     Resource resource = Resource::Invalid;
     IHUDDefinition hud;

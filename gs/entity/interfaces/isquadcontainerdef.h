@@ -6,7 +6,8 @@
 
 namespace Vorn {
 
-// The squads that an entity can launch, by slot; an empty name is a free slot.
+// The squads that an entity can launch, by slot, each for an amount of antimatter. All slots are stored; an empty name
+// is a free one.
 struct ISquadContainerDef : Record {
     static constexpr int kSlotCount = 4;
 

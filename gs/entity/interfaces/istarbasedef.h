@@ -7,7 +7,7 @@
 
 namespace Vorn {
 
-// What a star base is worth, and the upgrades that it can have.
+// What a star base is worth, and the upgrades that it can have, of which a file may hold 9.
 struct IStarBaseDef : Record {
     BrushRef mainViewIcon;
     float experiencePointsForDestroying = 0.0f;

@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// What makes a large ship a titan: the upgrades that it can have.
+// What makes a large ship a titan: the upgrades that it can have, of which a file may hold 8.
 struct ITitanDefinition : ILargeShipDefinition {
     PlayerEntityCountType statCountType = PlayerEntityCountType::Invalid;
     FixedVector<EntityDefName, 8> upgradeTypes;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// An upgrade of a titan. A check wants at least one stage.
+// An upgrade of a titan in at most 10 stages. A check wants at least one.
 struct ITitanUpgradeDef : Record {
     FixedVector<TitanUpgradeStageDef, 10> stages;
 

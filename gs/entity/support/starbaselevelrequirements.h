@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// The upgrade levels that a star base must have reached.
+// The upgrade levels that a star base must have reached, at most 3.
 struct StarBaseLevelRequirements : Record {
     struct StarBaseLevelRequirement : Record {
         StarBaseUpgradePropertyType upgradePropertyType = StarBaseUpgradePropertyType::Invalid;

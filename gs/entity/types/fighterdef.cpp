@@ -15,6 +15,7 @@ void FighterDef::Fields(FieldIo& io) {
     io.Block(physics);
     io.Block(weaponOwner);
     io.String(u"meshName", meshName);
+    // Fighters spell this key and that of the engine sound in lower case, unlike all other ships.
     io.Value(u"exhaustParticleSystemName", exhaustParticleSystemName);
     io.Value(u"ExplosionName", explosionName);
     io.String(u"exhaustTrailTextureName", exhaustTrailTextureName);

@@ -17,7 +17,7 @@
 
 namespace Vorn {
 
-// What all modules in orbit have in common; each class adds its own behind it.
+// What all modules in orbit have in common; each class adds its own behind it in the file.
 struct PlanetModuleOrbitDef : EntityDef {
     IUserInterfaceDef userInterface;
     IAbilityContainerDef abilities;

@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// The largest ship, which gains experience and is upgraded.
+// The largest ship, which gains experience and is upgraded. Its list is that of a capital ship around another block.
 struct TitanDef : LargeShipDef {
     IBombPlanetDefinition bombPlanet;
     ITitanDefinition titan;

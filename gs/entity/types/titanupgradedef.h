@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// An upgrade of a titan with its stages.
+// An upgrade of a titan. Icons stand in its stages alone.
 struct TitanUpgradeDef : EntityDef {
     ITitanUpgradeDef upgrade;
 

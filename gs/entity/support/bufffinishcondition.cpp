@@ -1,0 +1,81 @@
+#include "gs/entity/support/bufffinishcondition.h"
+
+#include "engine/archive/typerows.h"
+
+namespace Vorn {
+
+namespace {
+
+using Values = BuffFinishCondition::Values;
+using Step = FieldStep<Values>;
+
+constexpr Step kInstantActionTriggerType = [](FieldIo& io, Values& v) {
+    io.Enum(u"instantActionTriggerType", v.instantActionTriggerType);
+};
+constexpr Step kTime = [](FieldIo& io, Values& v) { io.Record(u"time", v.time); };
+constexpr Step kDamageNeeded = [](FieldIo& io, Values& v) { io.Record(u"damageNeeded", v.damageNeeded); };
+constexpr Step kTypeOfDamageNeeded = [](FieldIo& io, Values& v) {
+    io.Enum(u"typeOfDamageNeeded", v.typeOfDamageNeeded);
+};
+constexpr Step kFightersKilled = [](FieldIo& io, Values& v) { io.Record(u"fightersKilled", v.fightersKilled); };
+constexpr Step kBuffTypeToQuery = [](FieldIo& io, Values& v) { io.Value(u"buffTypeToQuery", v.buffTypeToQuery); };
+constexpr Step kHullPercent = [](FieldIo& io, Values& v) { io.Record(u"hullPercent", v.hullPercent); };
+constexpr Step kResearchPrerequisites = [](FieldIo& io, Values& v) {
+    io.Record(u"researchPrerequisites", v.researchPrerequisites);
+};
+
+constexpr TypeRow<Values, 2> kFinishConditionRows[] = {
+    {u"AbilityUsed"},
+    {u"AllOnDelayInstantActionsDone"},
+    {u"AnyOnConditionInstantActionDone"},
+    {u"AnyInstantActionWithTriggerTypeDone", {kInstantActionTriggerType}},
+    {u"AllPeriodicActionsDone"},
+    {u"AntiMatterDepleted"},
+    {u"TimeElapsed", {kTime}},
+    {u"DamageTaken", {kDamageNeeded, kTypeOfDamageNeeded}},
+    {u"EnterHyperspace"},
+    {u"ExitHyperspace"},
+    {u"OutOfRange"},
+    {u"NoTarget"},
+    {u"FightersKilled", {kFightersKilled}},
+    {u"FirstSpawnerNoLongerHasBuff", {kBuffTypeToQuery}},
+    {u"LastSpawnerNoLongerHasBuff", {kBuffTypeToQuery}},
+    {u"LastSpawnerInHyperspace"},
+    {u"OwnerNoLongerHasBuff", {kBuffTypeToQuery}},
+    {u"OwnerChanged"},
+    {u"OwnerIsFriendlyToFirstSpawner"},
+    {u"OwnerHullAbovePerc", {kHullPercent}},
+    {u"ResearchNotMet", {kResearchPrerequisites}},
+    {u"ShieldFailure"},
+    {u"TargetIsConstructed"},
+    {u"TargetNoLongerActivelyBeingConstructed"},
+    {u"TargetConstructionCannotBeUpdated"},
+    {u"TargetNoLongerHasBuff", {kBuffTypeToQuery}},
+    {u"TargetOwnerIsNeutral"},
+    {u"TargetOwnerIsFriendly"},
+    {u"TargetOwnerIsHostile"},
+};
+
+constexpr auto kFinishConditionTexts = TextsOf(kFinishConditionRows);
+
+} // namespace
+
+template <>
+inline constexpr EnumTable kEnumTable<BuffFinishConditionType> = MakeTable("BuffFinishConditionType",
+                                                                           kFinishConditionTexts.texts);
+
+namespace {
+constexpr BuffFinishConditionType kAbilityUsed{RowNumber<BuffFinishConditionType>(u"AbilityUsed")};
+}
+
+void BuffFinishCondition::Fields(FieldIo& io) {
+    io.Enum(u"finishConditionType", finishConditionType);
+    CheckAssert(finishConditionType != BuffFinishConditionType::Invalid, "false");
+    if (io.Writing()) {
+        // Writing has always taken this one for out of range.
+        CheckAssert(finishConditionType != kAbilityUsed, "false");
+    }
+    RowFields(io, kFinishConditionRows, finishConditionType, values);
+}
+
+} // namespace Vorn

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "gs/entity/support/buffeffectinfo.h"
+#include "gs/entity/support/targetcentriceffectpointspawninfo.h"
+#include "gs/entity/support/weaponeffectsdef.h"
+
+namespace Vorn {
+
+enum class WeaponEffectOriginType : std::int32_t { Invalid = -1, Targetter, Target };
+
+inline constexpr std::u16string_view kWeaponEffectOriginTypeRows[] = {u"Targetter", u"Target"};
+template <>
+inline constexpr EnumTable kEnumTable<WeaponEffectOriginType> =
+    MakeTable<WeaponEffectOriginType::Target>("WeaponEffectOriginType", kWeaponEffectOriginTypeRows);
+
+enum class ImpactOffsetType : std::int32_t { Invalid = -1 };
+
+inline constexpr std::u16string_view kImpactOffsetTypeRows[] = {u"Center", u"CenterOffsetBySpatialRadius",
+                                                                u"RandomMesh", u"RandomSpatialRadius"};
+template <>
+inline constexpr EnumTable kEnumTable<ImpactOffsetType> = MakeTable("ImpactOffsetType", kImpactOffsetTypeRows);
+
+// A shot that is seen when an action goes from one entity to another. Without an origin it has no place to start from,
+// and the check "false" fires.
+struct BuffWeaponEffects : Record {
+    Bool hasWeaponEffects;
+    WeaponEffectOriginType weaponEffectOriginType = WeaponEffectOriginType::Invalid;
+    BuffEffectAttachInfo weaponEffectAttachInfo;
+    TargetCentricEffectPointSpawnInfo targetCentricEffectPointSpawnInfo;
+    ImpactOffsetType weaponEffectImpactOffsetType = ImpactOffsetType::Invalid;
+    Bool canWeaponEffectHitHull;
+    Bool canWeaponEffectHitShields;
+    WeaponEffectsDef weaponEffectsDef;
+
+    void Fields(FieldIo& io) override;
+
+private:
+    void OriginFields(FieldIo& io);
+};
+
+} // namespace Vorn

@@ -43,10 +43,12 @@ constexpr KeyGroup kFrontBack = {4, 6, &Vector3::x};
 template <KeyGroup group>
 std::uint32_t FacedDirections(const Vector3& normal) {
     std::uint32_t faced = 0;
-    for (int i = group.firstDirection; i < group.endDirection; ++i) {
+    // The second of two opposite directions has the cosine of the first with the other sign, exactly.
+    for (int i = group.firstDirection; i < group.endDirection; i += 2) {
         const Vector3& axis = kDirections[i].axis;
         const float cosine = normal.x * axis.x + normal.y * axis.y + normal.z * axis.z;
         faced |= static_cast<std::uint32_t>(cosine >= kLeastCosine) << i;
+        faced |= static_cast<std::uint32_t>(-cosine >= kLeastCosine) << (i + 1);
     }
     return faced;
 }

@@ -11,6 +11,7 @@ struct StorageBytes {
     RemoteStorage* storage;
 
     int Take(void* elements, int elementSize, int count);
+    const unsigned char* TakeWhole(std::size_t) { return nullptr; }
     void Put(const void* elements, int elementSize, int count);
     void ReportShort(int count, int result);
 };

@@ -33,7 +33,7 @@ void EngineTest::TearDown() {
 
 void EngineTest::Handle(const char*, int line, std::u16string_view text, bool) {
     constexpr int kNoPosition = -1;
-    reports.push_back(line == kNoPosition ? Utf8(text) : Check(Utf8(text)));
+    collected.push_back(line == kNoPosition ? Utf8(text) : Check(Utf8(text)));
 }
 
 std::u16string FileTest::Put(std::string_view fileName, std::string_view bytes) const {

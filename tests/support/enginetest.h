@@ -29,12 +29,12 @@ protected:
     void Handle(const char* file, int line, std::u16string_view text, bool isFailure) override;
 
     // What was reported since the last call.
-    Reports TakeReports() { return std::exchange(reports, {}); }
+    Reports TakeReports() { return std::exchange(collected, {}); }
 
     std::optional<Core> core;
 
 private:
-    Reports reports;
+    Reports collected;
 };
 
 // An engine test with a folder for its files.

@@ -7,16 +7,14 @@
 namespace Vorn {
 
 // Something that a ship or a structure can do beyond shooting.
-class AbilityDef : public EntityDef {
-public:
+struct AbilityDef : EntityDef {
+    IAbilityDef ability;
+    IHUDDefinition hud;
+
     void Fields(FieldIo& io) override {
         io.Block(ability);
         io.Block(hud);
     }
-
-private:
-    IAbilityDef ability;
-    IHUDDefinition hud;
 };
 
 } // namespace Vorn

@@ -6,12 +6,10 @@
 namespace Vorn {
 
 // A buff: what abilities, weapons and research do to an entity.
-class BuffDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override { io.Block(buff); }
-
-private:
+struct BuffDef : EntityDef {
     IBuffDef buff;
+
+    void Fields(FieldIo& io) override { io.Block(buff); }
 };
 
 } // namespace Vorn

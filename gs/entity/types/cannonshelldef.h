@@ -11,11 +11,7 @@
 namespace Vorn {
 
 // The shell that a cannon sends to another planet.
-class CannonShellDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override;
-
-private:
+struct CannonShellDef : EntityDef {
     float acceleration = 0.0f;
     float startingSpeed = 0.0f;
     float maxSpeed = 0.0f;
@@ -34,6 +30,8 @@ private:
     IUserInterfaceDef userInterface;
     IHUDDefinition hud;
     IRenderDefinition render;
+
+    void Fields(FieldIo& io) override;
 };
 
 } // namespace Vorn

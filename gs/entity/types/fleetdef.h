@@ -6,12 +6,10 @@
 namespace Vorn {
 
 // A fleet of ships.
-class FleetDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override { io.Block(fleet); }
-
-private:
+struct FleetDef : EntityDef {
     IFleetDefinition fleet;
+
+    void Fields(FieldIo& io) override { io.Block(fleet); }
 };
 
 } // namespace Vorn

@@ -5,8 +5,7 @@
 namespace Vorn {
 
 // A formation has no content: its shape is not told in files.
-class FormationDef : public EntityDef {
-public:
+struct FormationDef : EntityDef {
     void Fields(FieldIo&) override {}
 };
 

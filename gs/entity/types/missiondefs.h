@@ -6,12 +6,10 @@
 namespace Vorn {
 
 // A mission of an artificial player. The kinds of missions have one content and differ in their types alone.
-class MissionDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override { io.Block(mission); }
-
-private:
+struct MissionDef : EntityDef {
     IMissionDefinition mission;
+
+    void Fields(FieldIo& io) override { io.Block(mission); }
 };
 
 class Mission_AttackPlanetDef : public MissionDef {};

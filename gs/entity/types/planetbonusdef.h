@@ -8,11 +8,7 @@
 namespace Vorn {
 
 // What an artifact or another find changes at a planet. A check wants the range of levels in order.
-class PlanetBonusDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override;
-
-private:
+struct PlanetBonusDef : EntityDef {
     std::uint32_t minUpgradeLevelNeeded = 0;
     std::uint32_t maxUpgradeLevelNeeded = 0;
     FixedString<256> nameStringID;
@@ -21,6 +17,8 @@ private:
     FixedArray<std::uint32_t, 4> intBonuses;
     std::int32_t dlcId = kDefaultDlcId;
     IHUDDefinition hud;
+
+    void Fields(FieldIo& io) override;
 };
 
 } // namespace Vorn

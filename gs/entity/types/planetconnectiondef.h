@@ -5,8 +5,7 @@
 namespace Vorn {
 
 // A lane between two planets. It has no fields: its file says no more than its type.
-class PlanetConnectionDef : public EntityDef {
-public:
+struct PlanetConnectionDef : EntityDef {
     void Fields(FieldIo&) override {}
 };
 

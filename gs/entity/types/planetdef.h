@@ -10,16 +10,14 @@
 namespace Vorn {
 
 // A kind of planet or asteroid.
-class PlanetDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override;
-
-private:
+struct PlanetDef : EntityDef {
     IPlanetDefinition planet;
     IShieldDefinition shield;
     IOrbitBodyDefinition orbitBody;
     IRenderDefinition render;
     IAbilityContainerDef abilities;
+
+    void Fields(FieldIo& io) override;
 };
 
 } // namespace Vorn

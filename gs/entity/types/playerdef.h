@@ -6,12 +6,10 @@
 namespace Vorn {
 
 // The definition of a playable race.
-class PlayerDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override { io.Block(player); }
-
-private:
+struct PlayerDef : EntityDef {
     IPlayerDef player;
+
+    void Fields(FieldIo& io) override { io.Block(player); }
 };
 
 } // namespace Vorn

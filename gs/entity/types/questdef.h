@@ -6,12 +6,10 @@
 namespace Vorn {
 
 // A quest of a minor power.
-class QuestDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override { io.Block(quest); }
-
-private:
+struct QuestDef : EntityDef {
     IQuestDefinition quest;
+
+    void Fields(FieldIo& io) override { io.Block(quest); }
 };
 
 } // namespace Vorn

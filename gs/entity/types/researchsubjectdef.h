@@ -7,13 +7,11 @@
 namespace Vorn {
 
 // A subject of research.
-class ResearchSubjectDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override;
-
-private:
+struct ResearchSubjectDef : EntityDef {
     IHUDDefinition hud;
     IResearchSubjectDefinition subject;
+
+    void Fields(FieldIo& io) override;
 };
 
 } // namespace Vorn

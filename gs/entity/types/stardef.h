@@ -11,11 +11,7 @@
 namespace Vorn {
 
 // A kind of star.
-class StarDef : public EntityDef {
-public:
-    void Fields(FieldIo& io) override;
-
-private:
+struct StarDef : EntityDef {
     IStarDefinition star;
     IAbilityContainerDef abilities;
     IHUDDefinition hud;
@@ -26,6 +22,8 @@ private:
     FixedString<256> meshName;
     float maxMeshVisibilityDistanceToCamera = -1.0f;
     IRenderDefinition render;
+
+    void Fields(FieldIo& io) override;
 };
 
 } // namespace Vorn

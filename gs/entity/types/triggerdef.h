@@ -5,8 +5,7 @@
 namespace Vorn {
 
 // A trigger has no content: its file tells that it is there.
-class TriggerDef : public EntityDef {
-public:
+struct TriggerDef : EntityDef {
     void Fields(FieldIo&) override {}
 };
 

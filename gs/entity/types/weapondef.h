@@ -5,8 +5,7 @@
 namespace Vorn {
 
 // A weapon by itself has no content: weapons are told where their owners are.
-class WeaponDef : public EntityDef {
-public:
+struct WeaponDef : EntityDef {
     void Fields(FieldIo&) override {}
 };
 

@@ -1,0 +1,133 @@
+#include "tests/support/archivetest.h"
+
+#include <numeric>
+
+namespace Vorn {
+
+namespace {
+
+using Numbers = std::vector<std::int32_t>;
+
+// Reads "count" and as many "n" in both forms, and what stands behind them.
+class ListTest : public ArchiveTest {
+protected:
+    template <class Transfer>
+    Numbers ReadList(std::int32_t count, Transfer transfer) {
+        Numbers result;
+        for (const FileArchiveType form : {FileArchiveType::Text, FileArchiveType::Binary}) {
+            const std::string source = Written(form, [&](FieldIo& io) {
+                io.WriteCount(u"count", count);
+                for (std::int32_t i = 0; i < count; ++i) {
+                    io.Int(u"n", i);
+                }
+                std::int32_t behind = 77;
+                io.Int(u"behind", behind);
+            });
+            std::int32_t behind = 0;
+            Numbers numbers;
+            Read(std::string(form == FileArchiveType::Text ? kTextHeader : kBinaryHeader) + source, [&](FieldIo& io) {
+                numbers = transfer(io);
+                io.Int(u"behind", behind);
+            });
+            EXPECT_EQ(behind, 77) << "the fields behind the list line up";
+            EXPECT_TRUE(result.empty() || result == numbers);
+            result = numbers;
+        }
+        return result;
+    }
+};
+
+Numbers FirstNumbers(std::int32_t count) {
+    Numbers numbers(static_cast<std::size_t>(count));
+    std::iota(numbers.begin(), numbers.end(), 0);
+    return numbers;
+}
+
+template <class List>
+Numbers NumbersOf(const List& list) {
+    return {list.begin(), list.end()};
+}
+
+TEST_F(ListTest, LimitedListsDropTheSurplus) {
+    const auto bounded = [](FieldIo& io) {
+        FixedVector<std::int32_t, 3> list;
+        list.Append(9);
+        io.BoundedList(u"count", list, [&](std::int32_t& n) { io.Int(u"n", n); });
+        return NumbersOf(list);
+    };
+    const auto capped = [](FieldIo& io) {
+        FixedVector<std::int32_t, 3> list;
+        io.CappedList(u"count", list, [&](std::int32_t& n) { io.Int(u"n", n); });
+        return NumbersOf(list);
+    };
+    for (const std::int32_t count : {0, 3}) {
+        EXPECT_EQ(ReadList(count, bounded), FirstNumbers(count));
+        EXPECT_EQ(ReadList(count, capped), FirstNumbers(count));
+    }
+    EXPECT_EQ(ReadList(-5, bounded), Numbers());
+    EXPECT_EQ(TakeReports(), Reports());
+    EXPECT_EQ(ReadList(5, bounded), FirstNumbers(3));
+    EXPECT_EQ(TakeReports(),
+              Reports(2, "count exceeds the maximum allowed. 5 requested but only 3 allowed. If a larger "
+                         "number is needed bug a programmer!\n"));
+    EXPECT_EQ(ReadList(5, capped), FirstNumbers(3));
+    EXPECT_EQ(TakeReports(), Reports(4, Check("m_CurrentSize < MAX_SIZE")));
+}
+
+TEST_F(ListTest, HeapListsTakeAll) {
+    const auto growing = [](FieldIo& io) {
+        DynamicVector<std::int32_t> list;
+        list.Append(9);
+        io.GrowingList(u"count", list, [&](std::int32_t& n) { io.Int(u"n", n); });
+        return NumbersOf(list);
+    };
+    const auto reserved = [](FieldIo& io) {
+        DynamicVector<std::int32_t> list;
+        io.ReservedList(u"count", list, [&](std::int32_t& n) { io.Int(u"n", n); });
+        return NumbersOf(list);
+    };
+    for (const std::int32_t count : {0, 1, 500}) {
+        EXPECT_EQ(ReadList(count, growing), FirstNumbers(count));
+        EXPECT_EQ(ReadList(count, reserved), FirstNumbers(count));
+    }
+    EXPECT_EQ(ReadList(-1, reserved), Numbers());
+}
+
+// A damaged count ends in seconds: behind the end of the file only so many reads are made.
+TEST_F(ListTest, HugeCountsStopBehindTheEnd) {
+    class : public ReportHandler {
+        void Handle(const char*, int, std::u16string_view, bool) override {}
+    } dropReports;
+    g_Reporting.reportHandler = &dropReports;
+    std::int32_t entries = 0;
+    Read(std::string(kBinaryHeader) + std::string("\xFF\xFF\xFF\x7F", 4), [&](FieldIo& io) {
+        io.ReadEntries(io.ReadCount(u"count"), [&](std::int32_t) {
+            std::int32_t value = 0;
+            io.Int(u"n", value);
+            ++entries;
+        });
+    });
+    EXPECT_GE(entries, 1000000);
+    EXPECT_LE(entries, 1000002);
+}
+
+TEST_F(ListTest, VersionsDivideWhatIsRead) {
+    const auto holds = [&](std::string_view bytes) {
+        std::string result;
+        Read(bytes, [&](FieldIo& io) {
+            for (const std::int32_t threshold : {-1, 190, 194}) {
+                result += io.Since(threshold) ? 'S' : '-';
+                result += io.Before(threshold) ? 'B' : '-';
+            }
+        });
+        return result;
+    };
+    EXPECT_EQ(holds("TXT\n\n"), "S--B-B");
+    EXPECT_EQ(holds("TXT2\nZephArchiveVersion 190\n"), "S-S--B");
+    EXPECT_EQ(holds(std::string("BIN2\n\xC2\0\0\0", 9)), "S-S-S-");
+    Written(FileArchiveType::Text, [](FieldIo& io) { EXPECT_TRUE(io.Since(500) && io.Writing()); });
+}
+
+} // namespace
+
+} // namespace Vorn

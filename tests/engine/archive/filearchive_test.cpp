@@ -1,0 +1,392 @@
+#include "engine/archive/checksum.h"
+#include "engine/archive/record.h"
+#include "tests/support/archivetest.h"
+
+#include <bit>
+
+namespace Vorn {
+
+namespace {
+
+struct Inner : Record {
+    void Fields(FieldIo& io) override { io.Uint(u"count", count); }
+
+    std::uint32_t count = 3000000000;
+};
+
+struct Name : SingleLineArchivable {
+    void Read(Label label, Archive& archive) override { archive.Read(label, text.Buffer().m_Buffer, 20); }
+    void Write(Label label, Archive& archive) const override { archive.Write(label, text.Units(), 20); }
+
+    FixedString<20> text{u"by name"};
+};
+
+// One member of every kind, each with a value that shows what became of it.
+struct AllKinds : Record {
+    void Fields(FieldIo& io) override {
+        io.Color(u"color", color);
+        io.Rectangle(u"rectangle", rectangle);
+        io.Size(u"size", size);
+        io.Point(u"point", point);
+        io.Quad(u"quad", quad);
+        io.Matrix44(u"matrix44", matrix44);
+        io.Matrix33(u"matrix33", matrix33);
+        io.Vector3(u"vector3", vector3);
+        io.String(u"string", string);
+        io.Int64(u"int64", int64);
+        io.Bool(u"bool", boolean);
+        io.Double(u"double", real);
+        io.Float(u"float", single);
+        io.Int(u"int", integer);
+        io.Value(u"value", name);
+        io.Record(u"record", inner);
+    }
+
+    Color color{1.0f, 0.5f, 0.0f, 0.25f};
+    Rectangle rectangle{10, 20, 40, 60};
+    Size size{-1, 2};
+    Point point{3, -2147483647 - 1};
+    Quad quad{0.5f, 1.5f, -2.5f, 1e9f};
+    Matrix44 matrix44;
+    Matrix33 matrix33;
+    Vector3 vector3{1.0f, -2.0f, 0.0000005f};
+    FixedString<20> string{u"a \"b\" %s ö"};
+    std::int64_t int64 = INT64_MIN;
+    Bool boolean = true;
+    double real = 1.0 / 3;
+    float single = 0.1f;
+    std::int32_t integer = -7;
+    Name name;
+    Inner inner;
+};
+
+class FileArchiveTest : public ArchiveTest {
+protected:
+    FileArchiveTest() {
+        all.matrix33.rows[1][2] = 6.25f;
+        all.matrix44.rows[3][0] = -6.25f;
+    }
+
+    // The fields of a record, at the top level of the file.
+    static Fields FieldsOf(Record& record) {
+        return [&record](FieldIo& io) { record.Fields(io); };
+    }
+
+    AllKinds all;
+};
+
+constexpr std::string_view kPlainText = "color 40ff8000\r\n"
+                                        "rectangle [ 10 , 20 , 30 , 40 ]\r\n"
+                                        "size [ -1 , 2 ]\r\n"
+                                        "point [ 3 , -2147483648 ]\r\n"
+                                        "quad [ 0.500000 1.500000 -2.500000 1000000000.000000 ]\r\n"
+                                        "matrix44\r\n"
+                                        "\t [ 0.000000 0.000000 0.000000 0.000000 ]\r\n"
+                                        "\t [ 0.000000 0.000000 0.000000 0.000000 ]\r\n"
+                                        "\t [ 0.000000 0.000000 0.000000 0.000000 ]\r\n"
+                                        "\t [ -6.250000 0.000000 0.000000 0.000000 ]\r\n"
+                                        "matrix33\r\n"
+                                        "\t [ 0.000000 0.000000 0.000000 ]\r\n"
+                                        "\t [ 0.000000 0.000000 6.250000 ]\r\n"
+                                        "\t [ 0.000000 0.000000 0.000000 ]\r\n"
+                                        "vector3 [ 1.000000 -2.000000 0.000000 ]\r\n"
+                                        "string \"a \"b\" %s \xC3\xB6\"\r\n"
+                                        "int64 -9223372036854775808\r\n"
+                                        "bool TRUE\r\n"
+                                        "double 0.333333\r\n"
+                                        "float 0.100000\r\n"
+                                        "int -7\r\n"
+                                        "value \"by name\"\r\n"
+                                        "record\r\n"
+                                        "\tcount -1294967296\r\n";
+
+TEST_F(FileArchiveTest, TextFormOfEveryKind) {
+    const std::string written = Written(FileArchiveType::Text, FieldsOf(all));
+    EXPECT_EQ(written, kPlainText);
+    AllKinds read;
+    read.single = 9.0f;
+    Read(std::string(kTextHeader) + written, FieldsOf(read));
+    // The string is cut at the first quote inside; all else comes back.
+    EXPECT_EQ(read.string.View(), u"a ");
+    read.string = all.string;
+    EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(read)), kPlainText);
+}
+
+TEST_F(FileArchiveTest, FloatBitsKeepFloatsExact) {
+    const std::string written = Written(FileArchiveType::Text, FieldsOf(all), true);
+    for (const char* line :
+         {"\r\nfloat 0.10 Bits=1036831949\r\n", "\r\ndouble 0.33 Bits=4599676419421066581\r\n",
+          "\r\nvector3 [ 1.00 -2.00 0.00 ] Bits=[ 1065353216 , -1073741824 , 889599933 ]\r\n",
+          "\r\nquad [ 0.50 1.50 -2.50 1000000000.00 ] Bits=[ 1056964608 , 1069547520 , -1071644672 , "
+          "1315859240 ]\r\n",
+          "\r\n\t [ 0.00 0.00 6.25 ] Bits=[ 0 , 0 , 1086849024 ]\r\n"}) {
+        EXPECT_NE(written.find(line), std::string::npos) << line << written;
+    }
+    AllKinds read;
+    read.real = 0;
+    read.vector3 = {};
+    Read(std::string(kTextHeader) + written, FieldsOf(read), true);
+    EXPECT_EQ(read.real, all.real);
+    EXPECT_EQ(read.vector3.z, all.vector3.z);
+    // Without the flag only the decimals are looked at, and a plain file misses the bits.
+    Read(std::string(kTextHeader) + written, FieldsOf(read));
+    EXPECT_EQ(read.real, 0.33);
+    EXPECT_EQ(TakeReports(), Reports());
+    Read(
+        std::string(kTextHeader) + "float 0.25\nvector3 [ 1 2 3 ]\n",
+        [&](FieldIo& io) {
+            io.Float(u"float", read.single);
+            io.Vector3(u"vector3", read.vector3);
+        },
+        true);
+    EXPECT_EQ(TakeReports(), Reports({Check("result == 2"), Check("result == 6")}));
+}
+
+TEST_F(FileArchiveTest, BinaryFormOfEveryKind) {
+    all.boolean = Bool::FromByte(7);
+    all.single = std::bit_cast<float>(0x7F800001);
+    const std::string written = Written(FileArchiveType::Binary, FieldsOf(all));
+    EXPECT_EQ(written.size(),
+              16u + 16 + 8 + 8 + 16 + 64 + 36 + 12 + (4 + 2 * 10) + 8 + 1 + 8 + 4 + 4 + (4 + 2 * 7) + 4);
+    EXPECT_EQ(written.substr(16, 16), std::string("\x0A\0\0\0\x14\0\0\0\x28\0\0\0\x3C\0\0\0", 16));
+    EXPECT_EQ(written.substr(176, 8), std::string("\x0A\0\0\0a\0 \0", 8));
+    AllKinds read;
+    Read(std::string(kBinaryHeader) + written, FieldsOf(read));
+    EXPECT_EQ(read.string.View(), all.string.View());
+    EXPECT_EQ(Written(FileArchiveType::Binary, FieldsOf(read)), written);
+    // Cut anywhere, it reads to its end and says so.
+    for (std::size_t length = 0; length < written.size(); ++length) {
+        AllKinds cut;
+        Read(std::string(kBinaryHeader) + written.substr(0, length), FieldsOf(cut));
+        EXPECT_FALSE(TakeReports().empty()) << length;
+    }
+}
+
+TEST_F(FileArchiveTest, MissingLabelsLeaveDefaults) {
+    const std::uint32_t checkSum = Read("TXT\nnothing 1\n", FieldsOf(all));
+    EXPECT_EQ(checkSum, 0u);
+    EXPECT_EQ(TakeReports().size(), 16u);
+    EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(all)), kPlainText);
+}
+
+// What a line of text makes of a field, by the name of its kind.
+TEST_F(FileArchiveTest, ValuesInText) {
+    struct Row {
+        const char* kind;
+        const char* value;
+        const char* result;
+        Reports reports = {};
+    };
+    const std::string quote = "\" not found wrapping data string: string\nFileName: ";
+    const Row rows[] = {
+        {"int", "12abc", "12"},
+        {"int", "abc", "-7", {Check("result == 1")}},
+        {"int", "", "-7", {Check("result == 1")}},
+        {"int64", "x", "-9223372036854775808", {Check("result == 1")}},
+        {"float", "-", "0.100000", {Check("result == 1")}},
+        {"float", "1e50", "inf"},
+        {"double", "1e39", "999999999999999939709166371603178586112.000000"},
+        {"double", "?", "0.333333", {Check("result == 1")}},
+        {"bool", "notTRUEorFALSE", "TRUE"},
+        {"bool", "FALSEhood", "FALSE"},
+        {"bool", "true", "TRUE", {Check("false")}},
+        {"color", "0xFF", "ff"},
+        {"color", "red", "40ff8000"},
+        {"color", "0", "0"},
+        {"point", "[1,2", "[ 1 , 2 ]"},
+        {"point", "[ 1 2 ]", "[ 1 , -2147483648 ]", {Check("result == 2")}},
+        {"size", "1 , 2", "[ -1 , 2 ]", {Check("result == 2")}},
+        {"rectangle", "[ 10 , 20 , 30 ]", "[ 10 , 20 , 30 , -1 ]", {Check("result == 4")}},
+        {"rectangle", "", "[ -1 , -1 , -1 , -1 ]", {Check("result == 4")}},
+        {"rectangle", "[ 2147483647 , 0 , 1 , 0 ]", "[ 2147483647 , 0 , 1 , 0 ]"},
+        {"vector3", "[4 5.5 6]", "[ 4.000000 5.500000 6.000000 ]"},
+        {"vector3", "[ 4 ]", "[ 4.000000 -2.000000 0.000000 ]", {Check("result == 3")}},
+        {"quad", "[ 1 2 3, 4 ]", "[ 1.000000 2.000000 3.000000 1000000000.000000 ]", {Check("result == 4")}},
+        {"string", "\"\"", "\"\""},
+        {"string", "see \"this\" \"that\"", "\"this\""},
+        {"string", "\"1234567890123456789\"", "\"1234567890123456789\""},
+        {"string", "\"123456789012345678901\"", "\"1234567890123456789\"",
+         Reports(2, Check("numCharsCopied < bufferSize"))},
+    };
+    const std::string plain = "\r\n" + std::string(kPlainText);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(std::string(row.kind) + " " + row.value);
+        AllKinds read;
+        read.matrix33 = all.matrix33;
+        read.matrix44 = all.matrix44;
+        // All lines stand as written but for the one of the kind.
+        const auto replaced = [&](const std::string& value) {
+            const std::size_t start = plain.find("\r\n" + std::string(row.kind) + " ") + 3 + std::strlen(row.kind);
+            return std::string(plain).replace(start, plain.find("\r\n", start) - start, value).substr(2);
+        };
+        std::string source = replaced(row.value);
+        Read(std::string(kTextHeader) + source, FieldsOf(read));
+        EXPECT_EQ(TakeReports(), row.reports);
+        if (row.kind != std::string("string")) {
+            read.string = all.string;
+        }
+        EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(read)), replaced(row.result));
+    }
+}
+
+TEST_F(FileArchiveTest, LabelsAndLines) {
+    struct Row {
+        const char* text;
+        Reports labelsMissing;
+    };
+    const auto missing = [&](const char* label, int line, const char* content) {
+        return "Text FileArchive missing Label.\n\nFile: " + Utf8(NameIn("source")) + "\nLabel: " + label +
+               "\nLine Number:" + std::to_string(line) + "\nLine Contents:" + content + "\n";
+    };
+    const std::string noEnd =
+        "Missing \n in " + Utf8(NameIn("source")) +
+        "\n\nThis is a mostly harmless error message usually caused by forgetting to hit enter at "
+        "the end of the last line of the file";
+    const Row rows[] = {
+        {" \t a \t1\nb\v2\nc\t\n", {Check("result == 1")}},
+        {"a 1\nc 3\n", {missing("b", 2, "c 3\n")}},
+        {"a 1\n\nb 2\nc 3\n", {missing("b", 2, "\n"), missing("c", 3, "\n")}},
+        {"a 1\nbb 2\nc 3\n", {missing("b", 2, "bb 2\n"), missing("c", 3, "bb 2\n")}},
+        {"A 1\n", {missing("a", 1, "A 1\n"), missing("b", 2, "A 1\n"), missing("c", 3, "A 1\n")}},
+        {"a\xC2\xA0"
+         "1\nb 2\nc 3\n",
+         {missing("a", 1,
+                  "a\xC2\xA0"
+                  "1\n"),
+          missing("b", 2,
+                  "a\xC2\xA0"
+                  "1\n"),
+          missing("c", 3,
+                  "a\xC2\xA0"
+                  "1\n")}},
+        {"a 1\nb 2\nc", {noEnd, missing("c", 3, "c")}},
+        {"a 1\nb 2\nc 3", {noEnd}},
+        {"a 1\nb 2\nc 3\nmore\n", {}},
+    };
+    for (const Row& row : rows) {
+        std::int32_t values[3] = {};
+        Read(std::string(kTextHeader) + row.text, [&](FieldIo& io) {
+            io.Int(u"a", values[0]);
+            io.Int(u"b", values[1]);
+            io.Int(u"c", values[2]);
+        });
+        EXPECT_EQ(TakeReports(), row.labelsMissing) << row.text;
+    }
+}
+
+// The last line stays for examination, again and again, also after other labels failed on it.
+TEST_F(FileArchiveTest, LastLineServesItsLabelForEver) {
+    DynamicVector<FixedString<20>> sounds;
+    std::int32_t other = 5;
+    Read("TXT\nsoundCount 3\nsound \"a\"\n", [&](FieldIo& io) {
+        io.GrowingList(u"soundCount", sounds, [&](auto& sound) { io.String(u"sound", sound); });
+        EXPECT_EQ(TakeReports(), Reports());
+        io.Int(u"other", other);
+        EXPECT_NE(TakeReports().at(0).find("Line Number:5\nLine Contents:sound \"a\"\n"), std::string::npos);
+        io.String(u"sound", sounds.Append());
+    });
+    ASSERT_EQ(sounds.Size(), 4);
+    EXPECT_EQ(std::count(sounds.begin(), sounds.end(), FixedString<20>(u"a")), 4);
+}
+
+// Rows take fresh lines whatever they hold, and the old one again at the end of the file.
+TEST_F(FileArchiveTest, MatrixRowsHaveNoLabel) {
+    Matrix33 matrix;
+    std::int32_t behind = 0;
+    Read("TXT\nm \n[ 1 2 3 ]\nx\n [4 5 6\nbehind 8\n", [&](FieldIo& io) {
+        io.Matrix33(u"m", matrix);
+        io.Int(u"behind", behind);
+    });
+    EXPECT_EQ(TakeReports(), Reports({Check("result == 3")}));
+    EXPECT_EQ(behind, 8);
+    EXPECT_EQ(matrix.rows[2][2], 6.0f);
+    Matrix44 cut;
+    Read("TXT\nm \n [ 1 2 3 4 ]\n", [&](FieldIo& io) { io.Matrix44(u"m", cut); });
+    EXPECT_EQ(cut.rows[3][3], 4.0f);
+}
+
+TEST_F(FileArchiveTest, CutsLongLinesWhenWriting) {
+    for (const std::size_t length : {1017u, 1018u, 1500u}) {
+        const std::u16string text(length, u'x');
+        FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn("long"), false, FileArchiveType::Text);
+        archive->Write(u"key", text.c_str(), 2000);
+        core->fileArchiveSystem.Close(archive);
+        const std::string bytes = ReadBytes(folder.Path() / "long").value_or("").substr(33);
+        EXPECT_EQ(bytes.size(), std::min<std::size_t>(length + 6, 1023) + 2);
+        EXPECT_EQ(TakeReports(), length > 1017 ? Reports({Check("! FAILED( hr )")}) : Reports());
+    }
+}
+
+TEST(CheckSum, Fletcher) {
+    EXPECT_EQ(FloatCheckSum(0.0f), 0xFFFFFFFF);
+    EXPECT_EQ(FloatCheckSum(1.0f), 0x3F803F80);
+    EXPECT_EQ(FloatCheckSum(-1.0f), 0xBF80BF80);
+    EXPECT_EQ(DoubleCheckSum(1.0), 0x3FF03FF0);
+    // More than a block: the folds between blocks change nothing but keep the sums from overflowing.
+    const std::vector<std::uint32_t> units(1000, 0xFFFFFFFF);
+    EXPECT_EQ(AddFletcher(units.data(), units.size()), 0xFFFFFFFF);
+    for (const std::uint32_t unit : {0u, 1u, 0xFFFFu, 0x10000u, 0x80000000u, 0x12345678u, 0xFFFFFFFFu}) {
+        EXPECT_EQ(AddFletcher(unit), AddFletcher(&unit, 1)) << unit;
+    }
+    EXPECT_EQ(StringCheckSum(u"ab\xFFFF"), 0x61u + 0x62 + 0xFFFF);
+}
+
+// Each kind adds to the sum by its own rule, which differs between the forms.
+TEST_F(FileArchiveTest, CheckSumsOfBothForms) {
+    constexpr std::uint32_t kHalf = 0x3F003F00;
+    constexpr std::uint32_t kOne = 0x3F803F80;
+    constexpr std::uint32_t kZero = 0xFFFFFFFF;
+    Color color{0.5f, 0.0f, 1.0f, 1.0f};
+    Rectangle rectangle{1, 2, 4, 8};
+    Point point{5, -3};
+    Vector3 vector3{0.0f, 1.0f, 0.5f};
+    FixedString<20> string(u"ab");
+    std::int64_t int64 = 99;
+    Bool boolean = true;
+    double real = 1.0;
+    std::int32_t integer = -5;
+    Matrix33 matrix;
+    struct Row {
+        Fields fields;
+        std::uint32_t text;
+        std::uint32_t binary;
+    };
+    const Row rows[] = {
+        {[&](FieldIo& io) { io.Color(u"k", color); }, 0, kHalf + kZero + kOne + kOne},
+        {[&](FieldIo& io) { io.Rectangle(u"k", rectangle); }, 15, 15},
+        {[&](FieldIo& io) { io.Point(u"k", point); }, 2, 2},
+        {[&](FieldIo& io) { io.Vector3(u"k", vector3); }, kZero + kOne + kHalf, kZero + kOne + kHalf},
+        {[&](FieldIo& io) { io.String(u"k", string); }, 0, 0x61 + 0x62},
+        {[&](FieldIo& io) { io.Int64(u"k", int64); }, 0, 0},
+        {[&](FieldIo& io) { io.Bool(u"k", boolean); }, 1, 1},
+        {[&](FieldIo& io) { io.Double(u"k", real); }, 0x3FF03FF0, 0x3FF03FF0},
+        {[&](FieldIo& io) { io.Int(u"k", integer); }, 0xFFFFFFFB, 0xFFFFFFFB},
+        {[&](FieldIo& io) { io.Matrix33(u"k", matrix); }, 9 * kZero, 9 * kZero},
+    };
+    for (const Row& row : rows) {
+        const std::string text = Written(FileArchiveType::Text, row.fields);
+        const std::string binary = Written(FileArchiveType::Binary, row.fields);
+        EXPECT_EQ(Read(std::string(kTextHeader) + text, row.fields), row.text) << text;
+        EXPECT_EQ(Read(std::string(kBinaryHeader) + binary, row.fields), row.binary) << text;
+    }
+    // A value that could not be scanned adds what the field holds.
+    EXPECT_EQ(Read("TXT\nk abc\n", [&](FieldIo& io) { io.Int(u"k", integer); }), 0xFFFFFFFB);
+    EXPECT_EQ(TakeReports(), Reports({Check("result == 1")}));
+}
+
+TEST_F(FileArchiveTest, BitCountsAreForOtherForms) {
+    for (const FileArchiveType form : {FileArchiveType::Text, FileArchiveType::Binary}) {
+        FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn("bits"), false, form);
+        archive->Write(u"value", 300u, 4);
+        core->fileArchiveSystem.Close(archive);
+        archive = core->fileArchiveSystem.OpenForRead(NameIn("bits"), false);
+        std::uint32_t value = 0;
+        archive->Read(u"value", value, 4);
+        core->fileArchiveSystem.Close(archive);
+        EXPECT_EQ(value, 300u);
+    }
+}
+
+} // namespace
+
+} // namespace Vorn

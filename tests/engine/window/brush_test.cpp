@@ -1,0 +1,67 @@
+#include "engine/window/brushset.h"
+#include "tests/support/archivetest.h"
+
+#include <cmath>
+
+namespace Vorn {
+
+namespace {
+
+class BrushTest : public ArchiveTest {
+protected:
+    Brush ReadBrush(std::string_view text) {
+        Brush brush;
+        Read(std::string(kTextHeader) + std::string(text), [&](FieldIo& io) { brush.Fields(io); });
+        return brush;
+    }
+};
+
+constexpr const char* kFrame = "name \"Frame\"\ncontent \"Margins\"\nstretchMargins\n\tleft 1\n\tright 2\n\ttop 3\n"
+                               "\tbottom 4\ncontentMargins\n\tleft 0\n\tright 0\n\ttop 0\n\tbottom 0\n"
+                               "fileName \"F.dds\"\npixelBox [ 10 , 0 , 30 , 40 ]\n";
+
+// Without an image the extent is 0, and a division by it is infinite, or not a number at the edge 0.
+TEST_F(BrushTest, TextureQuadsWithoutAnImage) {
+    Brush brush = ReadBrush(kFrame);
+    const Brush::TextureQuad& topLeft = brush.GetState(4).GetTextureQuad(0);
+    EXPECT_TRUE(std::isinf(topLeft.corners[0].u));
+    EXPECT_TRUE(std::isnan(topLeft.corners[0].v));
+    EXPECT_TRUE(std::isinf(topLeft.corners[2].v));
+    brush.ReleaseTextures();
+    const Brush::TextureQuad untouched = Brush::StateInfo().GetTextureQuad(9);
+    EXPECT_EQ(untouched.corners[1].u, 1.0f);
+    EXPECT_EQ(untouched.corners[3].v, 1.0f);
+}
+
+TEST_F(BrushTest, CopiesHaveTexturesOfTheirOwn) {
+    Brush brush = ReadBrush(kFrame);
+    EXPECT_EQ(core->textureSystem.GetTextureCount(), 5);
+    Brush copy(brush);
+    EXPECT_EQ(core->textureSystem.GetTextureCount(), 10);
+    EXPECT_TRUE(copy.GetState(0).IsLike(brush.GetState(3)));
+    brush.ReleaseTextures();
+    EXPECT_FALSE(copy.GetState(0).IsLike(brush.GetState(0))) << "no texture is unlike any texture";
+    EXPECT_TRUE(brush.GetState(1).IsLike(brush.GetState(0)));
+    copy = brush;
+    EXPECT_EQ(core->textureSystem.GetTextureCount(), 0);
+    EXPECT_EQ(copy.GetName().View(), u"Frame");
+}
+
+TEST_F(BrushTest, SetsGiveAllTexturesBack) {
+    std::string text = "TXT\nonlyLoadOnDemand TRUE\nbrushCount 20\n";
+    for (int i = 0; i < 20; ++i) {
+        text += "brush\n" + std::string(kFrame);
+    }
+    BrushSet set(Put("set", text));
+    set.Load(core->fileArchiveSystem);
+    EXPECT_EQ(set.GetBrushes().Size(), 20);
+    EXPECT_EQ(set.GetBrushes().Capacity(), 20);
+    EXPECT_EQ(core->textureSystem.GetTextureCount(), 100);
+    set.ReleaseTextures();
+    EXPECT_EQ(core->textureSystem.GetTextureCount(), 0);
+    EXPECT_EQ(set.GetBrushes().Size(), 0);
+}
+
+} // namespace
+
+} // namespace Vorn

@@ -1,0 +1,27 @@
+#include "tests/support/archivetest.h"
+
+namespace Vorn {
+
+std::string ArchiveTest::Written(FileArchiveType form, const Fields& fields, bool hasFloatBits) {
+    FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn("written"), hasFloatBits, form);
+    FieldIo io(*archive, FieldIo::Direction::Write);
+    fields(io);
+    core->fileArchiveSystem.Close(archive);
+    const std::string_view header = form == FileArchiveType::Text
+                                        ? std::string_view("\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\n")
+                                        : std::string_view("BIN2\n\xC2\0\0\0", 9);
+    std::string bytes = ReadBytes(folder.Path() / "written").value_or("");
+    EXPECT_TRUE(bytes.starts_with(header));
+    return bytes.substr(header.size());
+}
+
+std::uint32_t ArchiveTest::Read(std::string_view bytes, const Fields& fields, bool hasFloatBits) {
+    FileArchive* archive = core->fileArchiveSystem.OpenForRead(Put("source", bytes), hasFloatBits);
+    FieldIo io(*archive, FieldIo::Direction::Read);
+    fields(io);
+    const std::uint32_t checkSum = archive->GetCheckSum();
+    core->fileArchiveSystem.Close(archive);
+    return checkSum;
+}
+
+} // namespace Vorn

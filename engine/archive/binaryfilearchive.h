@@ -9,6 +9,7 @@ struct FileBytes {
     File* file;
 
     int Take(void* elements, int elementSize, int count) { return file->TryRead(elements, elementSize, count); }
+    const unsigned char* TakeWhole(std::size_t count) { return file->TakeWhole(count); }
     void Put(const void* elements, int elementSize, int count) { file->Write(elements, elementSize, count); }
     void ReportShort(int count, int result) { file->ReportShortRead(count, result); }
 };

@@ -7,8 +7,8 @@ namespace Vorn {
 // The shipping form: the values alone, little-endian, with no label, tag, length or padding between them. Behind the
 // end every scalar is reported and keeps its value.
 //
-// `Bytes` is where they lie: Take copies elements out and returns how many were there whole, Put copies them in,
-// ReportShort tells of elements that were not there.
+// `Bytes` is where they lie: Take copies elements out and returns how many were there whole, TakeWhole takes bytes
+// where they lie or gives null, Put copies elements in, ReportShort tells of elements that were not there.
 template <class Bytes>
 class ByteFileArchive : public FileArchive {
 public:
@@ -59,8 +59,12 @@ private:
     void ReportMissing();
     template <class Bits>
     void ReadBits(Bits& bits);
+    template <class Bits>
+    void ReadBitsSlowly(Bits& bits);
     template <class... Words>
     void ReadWords(Words&... words);
+    template <class... Words>
+    void ReadWordsSlowly(Words&... words);
     template <class... Floats>
     void ReadFloats(Floats&... floats);
     template <class... Ints>

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstring>
 #include <iterator>
 #include <type_traits>
 
@@ -34,7 +35,18 @@ void ByteFileArchive<Bytes>::ReportMissing() {
 // Not even a part of a scalar that the end cuts in two is stored.
 template <class Bytes>
 template <class Bits>
-void ByteFileArchive<Bytes>::ReadBits(Bits& bits) {
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadBits(Bits& bits) {
+    if (const unsigned char* place = bytes.TakeWhole(sizeof bits)) [[likely]] {
+        std::memcpy(&bits, place, sizeof bits);
+        bits = LittleEndian(bits);
+    } else {
+        ReadBitsSlowly(bits);
+    }
+}
+
+template <class Bytes>
+template <class Bits>
+VORN_RARE void ByteFileArchive<Bytes>::ReadBitsSlowly(Bits& bits) {
     Bits stored;
     if (bytes.Take(&stored, sizeof stored, 1) == 1) {
         bits = LittleEndian(stored);
@@ -46,31 +58,36 @@ void ByteFileArchive<Bytes>::ReadBits(Bits& bits) {
 // Several scalars of 32 bits in one go; each that is not there counts for itself.
 template <class Bytes>
 template <class... Words>
-void ByteFileArchive<Bytes>::ReadWords(Words&... words) {
-    constexpr int kCount = sizeof...(words);
-    std::uint32_t stored[kCount];
-    const int taken = bytes.Take(stored, sizeof stored[0], kCount);
-    const std::uint32_t* next = stored;
-    const auto assign = [&]<class Word>(Word& word) {
-        if (next - stored < taken) {
-            word = std::bit_cast<Word>(LittleEndian(*next++));
-        } else {
-            ReportMissing();
-        }
-    };
-    (assign(words), ...);
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadWords(Words&... words) {
+    if (const unsigned char* place = bytes.TakeWhole(sizeof(std::uint32_t) * sizeof...(words))) [[likely]] {
+        const auto assign = [&place]<class Word>(Word& word) {
+            std::uint32_t bits;
+            std::memcpy(&bits, place, sizeof bits);
+            place += sizeof bits;
+            word = std::bit_cast<Word>(LittleEndian(bits));
+        };
+        (assign(words), ...);
+    } else {
+        ReadWordsSlowly(words...);
+    }
+}
+
+template <class Bytes>
+template <class... Words>
+VORN_RARE void ByteFileArchive<Bytes>::ReadWordsSlowly(Words&... words) {
+    (ReadBitsSlowly(words), ...);
 }
 
 template <class Bytes>
 template <class... Floats>
-void ByteFileArchive<Bytes>::ReadFloats(Floats&... floats) {
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadFloats(Floats&... floats) {
     ReadWords(floats...);
-    checkSum += (FloatCheckSum(floats) + ...);
+    checkSum += FloatCheckSum(std::array{floats...});
 }
 
 template <class Bytes>
 template <class... Ints>
-void ByteFileArchive<Bytes>::ReadInts(Ints&... ints) {
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadInts(Ints&... ints) {
     ReadWords(ints...);
     checkSum += (static_cast<std::uint32_t>(ints) + ...);
 }

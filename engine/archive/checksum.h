@@ -1,5 +1,8 @@
 #pragma once
 
+#include "engine/string/ascii.h"
+
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -10,18 +13,52 @@ namespace Vorn {
 // Fletcher-32 over `count` 32-bit units, each as two little-endian 16-bit words, both sums starting at 0xFFFF.
 std::uint32_t AddFletcher(const std::uint32_t* data, std::size_t count);
 
-// AddFletcher of one unit, short enough for every float of a file.
+// AddFletcher of one unit, short enough for every float of a file: both sums of 16-bit words with the carries brought
+// round, which is what the folding comes to. The sum of a word and another is on top of the words side by side plus the
+// same with their places changed; only 0 has to become 0xFFFF.
 inline std::uint32_t AddFletcher(std::uint32_t unit) {
-    const auto fold = [](std::uint32_t sum) { return (sum & 0xFFFF) + (sum >> 16); };
-    std::uint32_t first = 0xFFFF + (unit & 0xFFFF);
-    std::uint32_t second = 0xFFFF + first;
-    first += unit >> 16;
-    second += first;
-    return fold(fold(second)) << 16 | fold(fold(first));
+    const std::uint32_t first = unit + std::rotl(unit, 16);
+    const std::uint32_t words = (first & 0xFFFF0000) | (unit & 0xFFFF);
+    const std::uint32_t second = words + std::rotl(words, 16);
+    return unit != 0 ? (second & 0xFFFF0000) | first >> 16 : 0xFFFFFFFF;
 }
 
 inline std::uint32_t FloatCheckSum(float value) {
     return AddFletcher(std::bit_cast<std::uint32_t>(value));
+}
+
+// The sum of the check sums of several floats.
+template <std::size_t N>
+VORN_ALWAYS_INLINE std::uint32_t FloatCheckSum(const std::array<float, N>& values) {
+    std::uint32_t sum = 0;
+    std::size_t i = 0;
+#ifdef VORN_HAS_SSE2
+    // AddFletcher of four units at once. A short group is filled up with 0, the check sum of which is -1.
+    if constexpr (N > 1) {
+        const auto swapWords = [](__m128i units) {
+            return _mm_shufflehi_epi16(_mm_shufflelo_epi16(units, 0xB1), 0xB1);
+        };
+        const __m128i upper = _mm_set1_epi32(static_cast<int>(0xFFFF0000));
+        __m128i sums = _mm_setzero_si128();
+        for (; i < N; i += 4) {
+            const auto at = [&](std::size_t k) { return k < N ? values[k] : 0.0f; };
+            const __m128i units = _mm_castps_si128(_mm_setr_ps(at(i), at(i + 1), at(i + 2), at(i + 3)));
+            const __m128i first = _mm_add_epi32(units, swapWords(units));
+            const __m128i words = _mm_or_si128(_mm_and_si128(upper, first), _mm_andnot_si128(upper, units));
+            const __m128i second = _mm_add_epi32(words, swapWords(words));
+            const __m128i both = _mm_or_si128(_mm_and_si128(upper, second), _mm_srli_epi32(first, 16));
+            const __m128i zeros = _mm_cmpeq_epi32(units, _mm_setzero_si128());
+            sums = _mm_add_epi32(sums, _mm_or_si128(both, zeros));
+        }
+        sums = _mm_add_epi32(sums, _mm_shuffle_epi32(sums, 0x4E));
+        sums = _mm_add_epi32(sums, _mm_shuffle_epi32(sums, 0xB1));
+        sum = static_cast<std::uint32_t>(_mm_cvtsi128_si32(sums)) + static_cast<std::uint32_t>(i - N);
+    }
+#endif
+    for (; i < N; ++i) {
+        sum += FloatCheckSum(values[i]);
+    }
+    return sum;
 }
 
 inline std::uint32_t DoubleCheckSum(double value) {

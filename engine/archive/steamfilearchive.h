@@ -14,6 +14,7 @@ struct StorageBytes {
     std::size_t Left(int elementSize) const;
 
     int Take(void* elements, int elementSize, int count);
+    const unsigned char* TakeWhole(std::size_t) { return nullptr; }
     void Put(const void* elements, int elementSize, int count);
     void ReportShort(int count, int result);
 };

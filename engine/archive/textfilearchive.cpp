@@ -111,6 +111,23 @@ void ScanFloatBits(Scanner& scanner, Floats<N>& values) {
     }
 }
 
+// Decimals, short as they need not be exact, and then the bits.
+template <std::size_t N>
+void PutFloatBits(TextLine& line, const Floats<N>& values) {
+    line.Literal(" [");
+    for (const float value : values) {
+        line.Literal(" ").Double(static_cast<double>(value), 2);
+    }
+    line.Literal(" ] Bits=[ ");
+    for (const float& value : values) {
+        line.Int(BitsOf(value));
+        if (&value != &values.back()) {
+            line.Literal(" , ");
+        }
+    }
+    line.Literal(" ]");
+}
+
 } // namespace
 
 // Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
@@ -155,45 +172,40 @@ void TextFileArchive::ReportMissingQuote(Label label) const {
 // Takes a line whole from the file's bytes if it has the label and behind it what `scan` takes, all in the form that
 // this class writes. Says false and takes nothing for every other line, which then goes the general road.
 template <class Scan>
-bool TextFileArchive::TakePlain(Label label, Scan scan) {
-    const char* start = m_CurrentLineUnread ? nullptr : file->PeekText();
-    if (start == nullptr) {
+VORN_ALWAYS_INLINE bool TextFileArchive::TakePlain(Label label, Scan scan) {
+    if (m_CurrentLineUnread || !file->HasPlainText()) [[unlikely]] {
         return false;
     }
+    const char* start = file->PeekText();
     PlainScanner scanner(start);
     scan(scanner.Tabs().Word(label));
-    const std::ptrdiff_t length = scanner.LineEnd().Cursor() - start;
-    if (!scanner.IsGood() || length >= kLineCapacity) {
+    if (!scanner.LineEnd()) [[unlikely]] {
         return false;
     }
-    file->SkipText(static_cast<std::size_t>(length));
-    plainLine = {start, static_cast<std::size_t>(length)};
+    file->SkipText(scanner.Cursor());
+    plainLine = start;
     ++lineNumber;
     return true;
 }
 
 // The line that was taken last becomes the current one, as if it had come by the general road.
 void TextFileArchive::KeepPlainLine() {
-    if (plainLine.empty()) {
+    if (plainLine == nullptr) {
         return;
     }
-    plainLine.remove_suffix(plainLine.ends_with("\r\n") ? 2 : 1);
+    std::string_view line(plainLine, static_cast<std::size_t>(file->PeekText() - plainLine));
+    line.remove_suffix(line.ends_with("\r\n") ? 2 : 1);
     char16_t* units = currentLine.Buffer().m_Buffer;
-    char16_t* end = std::copy(plainLine.begin(), plainLine.end(), units);
+    char16_t* end = std::copy(line.begin(), line.end(), units);
     *end++ = u'\n';
     *end = u'\0';
     currentLineLength = static_cast<int>(end - units);
-    plainLine = {};
+    plainLine = nullptr;
 }
 
-// Reads a value by its form and returns how many fields were stored, or kNoLabel.
+// Reads a value by its form the general road and returns how many fields were stored, or kNoLabel.
 template <class Form, class Value>
-int TextFileArchive::ReadForm(Label label, Value& value, int fields) {
-    Value plain = value;
-    if (TakePlain(label, [&](PlainScanner& scanner) { Form::Scan(scanner.Blank(), plain); })) {
-        value = plain;
-        return fields;
-    }
+int TextFileArchive::ScanForm(Label label, Value& value) {
     const char16_t* text = FindLabel(label);
     if (text == nullptr) {
         return kNoLabel;
@@ -203,51 +215,63 @@ int TextFileArchive::ReadForm(Label label, Value& value, int fields) {
     return scanner.Stored();
 }
 
-template <class... Reals>
-void TextFileArchive::ReadFloats(Label label, Reals&... reals) {
-    constexpr int kCount = sizeof...(reals);
-    Floats<kCount> values = {reals...};
-    bool found = true;
-    if (!hasFloatBits) {
-        found = CheckResult(ReadForm<FloatsForm>(label, values, kCount), kCount);
+// Reads a value of as many fields by its form. Calls `take` with it if there was a label.
+template <class Form, class Value, class Take>
+VORN_ALWAYS_INLINE void TextFileArchive::ReadForm(Label label, const Value& start, int fields, Take take) {
+    Value value = start;
+    if (TakePlain(label, [&](PlainScanner& scanner) { Form::Scan(scanner.Blank(), value); })) [[likely]] {
+        take(value);
+    } else {
+        ReadFormSlowly<Form>(label, start, fields, take);
+    }
+}
+
+template <class Form, class Value, class Take>
+VORN_RARE void TextFileArchive::ReadFormSlowly(Label label, Value value, int fields, Take take) {
+    if (CheckResult(ScanForm<Form>(label, value), fields)) {
+        take(value);
+    }
+}
+
+template <std::size_t N, class Take>
+VORN_ALWAYS_INLINE void TextFileArchive::ReadFloats(Label label, const Floats<N>& start, Take take) {
+    const auto takeAll = [this, take](const Floats<N>& values) {
+        take(values);
+        checkSum += FloatCheckSum(values);
+    };
+    if (!hasFloatBits) [[likely]] {
+        ReadForm<FloatsForm>(label, start, N, takeAll);
     } else if (const char16_t* text = FindLabel(label)) {
         Scanner scanner(RestOfLine(text));
+        Floats<N> values = start;
         ScanFloatBits(scanner, values);
-        CheckResult(scanner.Stored(), 2 * kCount);
-    } else {
-        found = false;
-    }
-    if (found) {
-        const float* next = values.data();
-        ((reals = *next++, checkSum += FloatCheckSum(reals)), ...);
+        CheckResult(scanner.Stored(), 2 * static_cast<int>(N));
+        takeAll(values);
     }
 }
 
 template <class... Ints>
-void TextFileArchive::AddInts(Ints... ints) {
+VORN_ALWAYS_INLINE void TextFileArchive::AddInts(Ints... ints) {
     checkSum += (static_cast<std::uint32_t>(ints) + ...);
 }
 
 // A row takes a line of its own, whatever stands there.
-template <int N>
+template <std::size_t N>
 void TextFileArchive::ReadRow(float (&row)[N]) {
     TakeLine();
     Scanner scanner({currentLine.Units(), static_cast<std::size_t>(currentLineLength)});
-    Floats<N> values;
-    std::copy_n(row, N, values.begin());
+    Floats<N> values = std::to_array(row);
     if (hasFloatBits) {
         ScanFloatBits(scanner, values);
     } else {
         FloatsForm::Scan(scanner.Blank(), values);
     }
-    CheckResult(scanner.Stored(), hasFloatBits ? 2 * N : N);
-    for (int i = 0; i < N; ++i) {
-        row[i] = values[static_cast<std::size_t>(i)];
-        checkSum += FloatCheckSum(row[i]);
-    }
+    CheckResult(scanner.Stored(), static_cast<int>(hasFloatBits ? 2 * N : N));
+    std::copy(values.begin(), values.end(), row);
+    checkSum += FloatCheckSum(values);
 }
 
-template <int N>
+template <std::size_t N>
 void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
     if (FindRecord(label)) {
         for (float(&row)[N] : rows) {
@@ -257,23 +281,24 @@ void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
 }
 
 // The line of a label alone.
-bool TextFileArchive::FindRecord(Label label) {
+VORN_ALWAYS_INLINE bool TextFileArchive::FindRecord(Label label) {
     return TakePlain(label, [](PlainScanner&) {}) || FindLabel(label) != nullptr;
 }
 
 void TextFileArchive::Read(Label label, Color& value) {
+    const auto take = [&value](std::uint32_t packed) { value = Color::FromUInt(packed); };
     std::uint32_t packed = 0;
-    if (ReadForm<HexForm>(label, packed, 1) == 1) {
-        value = Color::FromUInt(packed);
+    if (TakePlain(label, [&](PlainScanner& scanner) { HexForm::Scan(scanner.Blank(), packed); }) ||
+        ScanForm<HexForm>(label, packed) == 1) {
+        take(packed);
     }
 }
 
 void TextFileArchive::Read(Label label, Rectangle& value) {
-    Extent extent;
-    if (CheckResult(ReadForm<ExtentForm>(label, extent, 4), 4)) {
+    ReadForm<ExtentForm>(label, Extent{}, 4, [this, &value](const Extent& extent) {
         value = Rectangle::FromExtent(extent.x, extent.y, extent.width, extent.height);
         AddInts(value.left, value.right, value.bottom, value.top);
-    }
+    });
 }
 
 void TextFileArchive::Read(Label label, Size& value) {
@@ -283,13 +308,16 @@ void TextFileArchive::Read(Label label, Size& value) {
 }
 
 void TextFileArchive::Read(Label label, Point& value) {
-    if (CheckResult(ReadForm<PointForm>(label, value, 2), 2)) {
+    ReadForm<PointForm>(label, value, 2, [this, &value](const Point& point) {
+        value = point;
         AddInts(value.x, value.y);
-    }
+    });
 }
 
 void TextFileArchive::Read(Label label, Quad& value) {
-    ReadFloats(label, value.x, value.y, value.z, value.w);
+    ReadFloats(label, Floats<4>{value.x, value.y, value.z, value.w}, [&value](const Floats<4>& values) {
+        value = {values[0], values[1], values[2], values[3]};
+    });
 }
 
 void TextFileArchive::Read(Label label, Matrix44& value) {
@@ -301,7 +329,9 @@ void TextFileArchive::Read(Label label, Matrix33& value) {
 }
 
 void TextFileArchive::Read(Label label, Vector3& value) {
-    ReadFloats(label, value.x, value.y, value.z);
+    ReadFloats(label, Floats<3>{value.x, value.y, value.z}, [&value](const Floats<3>& values) {
+        value = {values[0], values[1], values[2]};
+    });
 }
 
 void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
@@ -374,10 +404,11 @@ void TextFileArchive::Read(Label label, double& value) {
 }
 
 void TextFileArchive::Read(Label label, float& value) {
-    if (!hasFloatBits) {
-        if (CheckResult(ReadForm<FloatForm>(label, value, 1), 1)) {
-            checkSum += FloatCheckSum(value);
-        }
+    if (!hasFloatBits) [[likely]] {
+        ReadForm<FloatForm>(label, value, 1, [this, &value](float read) {
+            value = read;
+            checkSum += FloatCheckSum(read);
+        });
     } else if (const char16_t* text = FindLabel(label)) {
         Scanner scanner(RestOfLine(text));
         float decimals = 0.0f;
@@ -390,15 +421,17 @@ void TextFileArchive::Read(Label label, float& value) {
 }
 
 void TextFileArchive::Read(Label label, std::int32_t& value) {
-    if (CheckResult(ReadForm<IntForm>(label, value, 1), 1)) {
-        AddInts(value);
-    }
+    ReadForm<IntForm>(label, value, 1, [this, &value](std::int32_t read) {
+        value = read;
+        AddInts(read);
+    });
 }
 
 void TextFileArchive::Read(Label label, std::uint32_t& value) {
-    auto number = static_cast<std::int32_t>(value);
-    Read(label, number);
-    value = static_cast<std::uint32_t>(number);
+    ReadForm<IntForm>(label, static_cast<std::int32_t>(value), 1, [this, &value](std::int32_t read) {
+        value = static_cast<std::uint32_t>(read);
+        AddInts(read);
+    });
 }
 
 void TextFileArchive::Read(Label label, SingleLineArchivable& value) {
@@ -417,47 +450,63 @@ void TextFileArchive::Read(Label label, Archivable& value) {
     }
 }
 
-template <class... Reals>
-void TextFileArchive::PutFloats(TextLine& line, Reals... values) const {
-    line.Literal(" [");
-    if (!hasFloatBits) {
-        (line.Literal(" ").Float(values), ...);
-        line.Literal(" ]");
-        return;
+// Writes a line of a label and what `put` puts behind it.
+template <class Put>
+VORN_ALWAYS_INLINE void TextFileArchive::WriteLine(Label label, Put put) {
+    if (char* start = file->BeginPlainLine(m_TabDepth)) [[likely]] {
+        PlainLine line(start);
+        put(line.Text(label));
+        if (char* end = line.End()) [[likely]] {
+            file->CommitLine(end);
+            return;
+        }
     }
-    (line.Literal(" ").Double(static_cast<double>(values), 2), ...);
-    line.Literal(" ] Bits=[");
-    bool isFirst = true;
-    ((isFirst ? line.Literal(" ") : line.Literal(" , "), line.Int(BitsOf(values)), isFirst = false), ...);
-    line.Literal(" ]");
+    WriteLineSlowly(label, put);
 }
 
-template <int N>
+template <class Put>
+VORN_RARE void TextFileArchive::WriteLineSlowly(Label label, Put put) {
+    TextLine line(*file, m_TabDepth, label);
+    put(line);
+    line.End();
+}
+
+template <std::size_t N>
+VORN_ALWAYS_INLINE void TextFileArchive::WriteFloats(Label label, Floats<N> values) {
+    if (hasFloatBits) [[unlikely]] {
+        WriteLineSlowly(label, [values](TextLine& line) { PutFloatBits(line, values); });
+        return;
+    }
+    WriteLine(label, [values](auto& line) {
+        line.Literal(" [");
+        for (const float value : values) {
+            line.Literal(" ").Float(value);
+        }
+        line.Literal(" ]");
+    });
+}
+
+template <std::size_t N>
 void TextFileArchive::WriteRows(Label label, const float (&rows)[N][N]) {
     CheckAssert(label.data() != nullptr, "label != NULL");
-    TextLine(*file, m_TabDepth, label).End();
+    WriteLine(label, [](auto&) {});
     ++m_TabDepth;
     for (const float(&row)[N] : rows) {
-        TextLine line(*file, m_TabDepth, {});
-        if constexpr (N == 3) {
-            PutFloats(line, row[0], row[1], row[2]);
-        } else {
-            PutFloats(line, row[0], row[1], row[2], row[3]);
-        }
-        line.End();
+        WriteFloats({}, std::to_array(row));
     }
     CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");
     --m_TabDepth;
 }
 
 void TextFileArchive::Write(Label label, const Color& value) {
-    TextLine(*file, m_TabDepth, label).Literal(" ").Hex(value.ToUInt()).End();
+    WriteLine(label, [packed = value.ToUInt()](auto& line) { line.Literal(" ").Hex(packed); });
 }
 
 void TextFileArchive::Write(Label label, const Rectangle& value) {
-    TextLine line(*file, m_TabDepth, label);
-    line.Literal(" [ ").Int(value.left).Literal(" , ").Int(value.top).Literal(" , ");
-    line.Int(value.Width()).Literal(" , ").Int(value.Height()).Literal(" ]").End();
+    WriteLine(label, [value](auto& line) {
+        line.Literal(" [ ").Int(value.left).Literal(" , ").Int(value.top).Literal(" , ");
+        line.Int(value.Width()).Literal(" , ").Int(value.Height()).Literal(" ]");
+    });
 }
 
 void TextFileArchive::Write(Label label, const Size& value) {
@@ -465,13 +514,12 @@ void TextFileArchive::Write(Label label, const Size& value) {
 }
 
 void TextFileArchive::Write(Label label, const Point& value) {
-    TextLine(*file, m_TabDepth, label).Literal(" [ ").Int(value.x).Literal(" , ").Int(value.y).Literal(" ]").End();
+    WriteLine(label,
+              [value](auto& line) { line.Literal(" [ ").Int(value.x).Literal(" , ").Int(value.y).Literal(" ]"); });
 }
 
 void TextFileArchive::Write(Label label, const Quad& value) {
-    TextLine line(*file, m_TabDepth, label);
-    PutFloats(line, value.x, value.y, value.z, value.w);
-    line.End();
+    WriteFloats(label, Floats<4>{value.x, value.y, value.z, value.w});
 }
 
 void TextFileArchive::Write(Label label, const Matrix44& value) {
@@ -483,49 +531,47 @@ void TextFileArchive::Write(Label label, const Matrix33& value) {
 }
 
 void TextFileArchive::Write(Label label, const Vector3& value) {
-    TextLine line(*file, m_TabDepth, label);
-    PutFloats(line, value.x, value.y, value.z);
-    line.End();
+    WriteFloats(label, Floats<3>{value.x, value.y, value.z});
 }
 
 void TextFileArchive::Write(Label label, const char16_t* text, int) {
-    TextLine(*file, m_TabDepth, label).Literal(" \"").Text(text).Literal("\"").End();
+    WriteLine(label, [text](auto& line) { line.Literal(" \"").Text(text).Literal("\""); });
 }
 
 void TextFileArchive::Write(Label label, const std::int64_t& value) {
-    TextLine(*file, m_TabDepth, label).Literal(" ").Int64(value).End();
+    WriteLineSlowly(label, [value](TextLine& line) { line.Literal(" ").Int64(value); });
 }
 
 void TextFileArchive::Write(Label label, const Bool& value) {
-    TextLine(*file, m_TabDepth, label).Text(value ? u" TRUE" : u" FALSE").End();
+    WriteLine(label, [value](auto& line) { line.Text(value ? u" TRUE" : u" FALSE"); });
 }
 
 void TextFileArchive::Write(Label label, const double& value) {
-    TextLine line(*file, m_TabDepth, label);
-    if (hasFloatBits) {
-        line.Literal(" ").Double(value, 2).Literal(" Bits=").Int64(std::bit_cast<std::int64_t>(value));
-    } else {
-        line.Literal(" ").Double(value);
-    }
-    line.End();
+    WriteLineSlowly(label, [value, this](TextLine& line) {
+        if (hasFloatBits) {
+            line.Literal(" ").Double(value, 2).Literal(" Bits=").Int64(std::bit_cast<std::int64_t>(value));
+        } else {
+            line.Literal(" ").Double(value);
+        }
+    });
 }
 
 void TextFileArchive::Write(Label label, const float& value) {
-    TextLine line(*file, m_TabDepth, label);
-    if (hasFloatBits) {
-        line.Literal(" ").Double(static_cast<double>(value), 2).Literal(" Bits=").Int(BitsOf(value));
-    } else {
-        line.Literal(" ").Float(value);
+    if (hasFloatBits) [[unlikely]] {
+        WriteLineSlowly(label, [value](TextLine& line) {
+            line.Literal(" ").Double(static_cast<double>(value), 2).Literal(" Bits=").Int(BitsOf(value));
+        });
+        return;
     }
-    line.End();
+    WriteLine(label, [value](auto& line) { line.Literal(" ").Float(value); });
 }
 
 void TextFileArchive::Write(Label label, const std::int32_t& value) {
-    TextLine(*file, m_TabDepth, label).Literal(" ").Int(value).End();
+    WriteLine(label, [value](auto& line) { line.Literal(" ").Int(value); });
 }
 
 void TextFileArchive::Write(Label label, const std::uint32_t& value) {
-    TextLine(*file, m_TabDepth, label).Literal(" ").Int(static_cast<std::int32_t>(value)).End();
+    WriteLine(label, [value](auto& line) { line.Literal(" ").Int(static_cast<std::int32_t>(value)); });
 }
 
 void TextFileArchive::Write(Label label, const SingleLineArchivable& value) {
@@ -533,7 +579,7 @@ void TextFileArchive::Write(Label label, const SingleLineArchivable& value) {
 }
 
 void TextFileArchive::Write(Label label, const Archivable& value) {
-    TextLine(*file, m_TabDepth, label).End();
+    WriteLine(label, [](auto&) {});
     ++m_TabDepth;
     value.Write(*this);
     CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");

@@ -2,9 +2,9 @@
 
 #include "engine/archive/filearchive.h"
 
-namespace Vorn {
+#include <array>
 
-class TextLine;
+namespace Vorn {
 
 // The readable form: one line a field, label first, nested records indented. Reading is strictly sequential: each read
 // demands that the current line begins with its label. A label that does not match is reported and leaves its field at
@@ -66,27 +66,36 @@ private:
     void ReportMissingLabel(Label label) const;
     void ReportMissingQuote(Label label) const;
     template <class Form, class Value>
-    int ReadForm(Label label, Value& value, int fields);
-    template <class... Reals>
-    void ReadFloats(Label label, Reals&... reals);
-    template <int N>
+    int ScanForm(Label label, Value& value);
+    template <class Form, class Value, class Take>
+    void ReadForm(Label label, const Value& start, int fields, Take take);
+    template <class Form, class Value, class Take>
+    void ReadFormSlowly(Label label, Value value, int fields, Take take);
+    template <std::size_t N, class Take>
+    void ReadFloats(Label label, const std::array<float, N>& start, Take take);
+    template <std::size_t N>
     void ReadRow(float (&row)[N]);
-    template <int N>
+    template <std::size_t N>
     void ReadRows(Label label, float (&rows)[N][N]);
     template <class... Ints>
     void AddInts(Ints... ints);
-    template <int N>
+    template <class Put>
+    void WriteLine(Label label, Put put);
+    template <class Put>
+    void WriteLineSlowly(Label label, Put put);
+    template <std::size_t N>
+    void WriteFloats(Label label, std::array<float, N> values);
+    template <std::size_t N>
     void WriteRows(Label label, const float (&rows)[N][N]);
-    template <class... Reals>
-    void PutFloats(TextLine& line, Reals... values) const;
 
     std::int32_t m_TabDepth = 0;
     FixedString<kLineCapacity> currentLine;
     int currentLineLength = 0;
     std::int32_t lineNumber = 0;
     bool m_CurrentLineUnread = false;
-    // The line taken last, where it was taken straight from the file's bytes; the current line is older then.
-    std::string_view plainLine;
+    // The line taken last, up to the place of the file, where it was taken straight from the file's bytes; the current
+    // line is older then.
+    const char* plainLine = nullptr;
 };
 
 } // namespace Vorn

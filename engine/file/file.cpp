@@ -45,16 +45,15 @@ bool File::Open(std::u16string_view fullName) {
         return false;
     }
     if (access == FileAccess::Read) {
-        input.emplace(stream);
-        input->Ensure(1);
-        if (input->HasFailed() && stream.IsDirectory()) {
+        input.Open();
+        input.Ensure(1);
+        if (input.HasFailed() && stream.IsDirectory()) {
             return false;
         }
-        lines.emplace(*input);
     } else {
-        output.emplace(stream);
+        output.Open();
         if (translation == FileTranslation::Text) {
-            output->Put(kUtf8Mark.data(), kUtf8Mark.size());
+            output.Put(kUtf8Mark.data(), kUtf8Mark.size());
         }
     }
     name.Assign(fullName);
@@ -66,13 +65,11 @@ void File::PrintText(std::u16string_view text) {
     CheckAssert(PutText(text), "result >= 0");
 }
 
-char* File::BeginLine(int indentation, std::size_t room) {
+char* File::BeginLine(int indentation) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
-    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
     const int tabs = std::clamp(indentation, 0, kMaxIndentation);
     bool written = true;
-    char* out = output->Reserve(static_cast<std::size_t>(tabs) + kTabs.size() + room, written);
+    char* out = output.Reserve(static_cast<std::size_t>(tabs) + kTabs.size() + kLineRoom, written);
     CheckAssert(written, "result >= 0");
     for (int put = 0; put < tabs; put += static_cast<int>(kTabs.size())) {
         std::memcpy(out + put, kTabs.data(), kTabs.size());
@@ -81,13 +78,13 @@ char* File::BeginLine(int indentation, std::size_t room) {
 }
 
 bool File::PutText(std::u16string_view text) {
-    bool written = output.has_value();
-    while (output && !text.empty()) {
+    bool written = output.IsOpen();
+    while (output.IsOpen() && !text.empty()) {
         const std::u16string_view piece = FirstPiece(text);
         bool flushed = true;
-        char* out = output->Reserve(piece.size() * kMaxUtf8PerUnit, flushed);
+        char* out = output.Reserve(piece.size() * kMaxUtf8PerUnit, flushed);
         written = written && flushed;
-        output->Commit(NarrowAscii(piece.data(), piece.size(), out) ? out + piece.size() : EncodeLines(out, piece));
+        output.Commit(NarrowAscii(piece.data(), piece.size(), out) ? out + piece.size() : EncodeLines(out, piece));
         text.remove_prefix(piece.size());
     }
     return written;
@@ -95,9 +92,9 @@ bool File::PutText(std::u16string_view text) {
 
 bool File::GetString(StringBuffer line, int& length) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
-    const LineKind kind = lines ? lines->ReadLine(line.m_Buffer, line.m_BufferSize, length) : LineKind::None;
+    const LineKind kind = lines.ReadLine(line.m_Buffer, line.m_BufferSize, length);
     if (kind == LineKind::None) {
-        if (input && input->HasFailed()) {
+        if (input.HasFailed()) {
             ReportError(u"File GetString - Error Encountered. [ File = %s ]\n", name);
         }
         return true;

@@ -3,8 +3,8 @@
 #include "engine/file/filebuffer.h"
 #include "engine/file/linereader.h"
 #include "engine/string/format.h"
-
-#include <optional>
+#include "engine/string/numbertext.h"
+#include "engine/string/utf8.h"
 
 namespace Vorn {
 
@@ -35,10 +35,23 @@ public:
     // Prints a text as it stands; an unpaired surrogate becomes U+FFFD.
     void PrintText(std::u16string_view text);
 
-    // A place in the buffer behind `indentation` tabs for the bytes of a line, at most `room` of them; CommitLine takes
-    // what was put there up to `end`, and without it nothing is printed.
-    char* BeginLine(int indentation, std::size_t room);
-    void CommitLine(const char* end) { output->Commit(end); }
+    // Bytes that may be put at a place from BeginLine: twice what a line of 1024 units takes, and two numbers.
+    static constexpr std::size_t kLineRoom = 2 * 1024 * kMaxUtf8PerUnit + 2 * kNumberTextCapacity;
+
+    // A place in the buffer behind `indentation` tabs for the bytes of a line; CommitLine takes what was put there up
+    // to `end`, and without it nothing is printed.
+    char* BeginLine(int indentation);
+    void CommitLine(char* end) { output.Commit(end); }
+
+    // BeginLine as nearly every line needs it. Null where there is more to do.
+    char* BeginPlainLine(int indentation) {
+        const auto tabs = static_cast<unsigned>(indentation);
+        if (tabs > kTabs.size() || output.Room() < plainLineRoom + tabs) [[unlikely]] {
+            return nullptr;
+        }
+        std::memcpy(output.Cursor(), kTabs.data(), kTabs.size());
+        return output.Cursor() + tabs;
+    }
 
     // Reads a line into the buffer, line feed included; true at the end of the file, where the buffer keeps its
     // content. A line without its line feed, or one longer than the buffer, is reported and read as far as it goes.
@@ -50,13 +63,13 @@ public:
     // The same with the length of the line in code units, line feed included.
     bool GetString(StringBuffer line, int& length);
 
-    // The bytes ahead of a reader that can do with UTF-8 text as it stands, with a 0 and ReadBuffer::kSlack bytes in
-    // all behind the last one that is in the buffer; null where text is to be decoded. What it takes it skips; the
-    // bytes stay until something else is read.
-    const char* PeekText() const {
-        return lines && lines->StandsAtByte() ? reinterpret_cast<const char*>(input->Cursor()) : nullptr;
-    }
-    void SkipText(std::size_t bytes) { input->Skip(bytes); }
+    // Whether a reader that can do with UTF-8 text as it stands may take it from PeekText.
+    bool HasPlainText() const { return lines.StandsAtByte(); }
+
+    // The bytes ahead, with a 0 and ReadBuffer::kSlack bytes in all behind the last one that is in the buffer. What the
+    // reader takes it skips; the bytes stay until something else is read.
+    const char* PeekText() const { return reinterpret_cast<const char*>(input.Cursor()); }
+    void SkipText(const char* end) { input.SkipTo(reinterpret_cast<const unsigned char*>(end)); }
 
     // Reads up to `count` elements and returns how many were there whole; fewer are reported. The bytes of a partial
     // element are consumed.
@@ -72,12 +85,22 @@ public:
     int TryRead(void* elements, int elementSize, int count) {
         const auto size = static_cast<std::size_t>(elementSize);
         const std::size_t bytes = size * static_cast<std::size_t>(count);
-        if (input && input->Available() >= bytes) [[likely]] {
-            std::memcpy(elements, input->Cursor(), bytes);
-            input->Skip(bytes);
+        if (const unsigned char* place = TakeWhole(bytes)) [[likely]] {
+            std::memcpy(elements, place, bytes);
             return count;
         }
-        return input ? static_cast<int>(input->Take(elements, bytes) / size) : 0;
+        return static_cast<int>(input.Take(elements, bytes) / size);
+    }
+
+    // Takes the next bytes if they lie in the buffer, where they stay until something else is read; null and nothing
+    // taken if they do not.
+    const unsigned char* TakeWhole(std::size_t bytes) {
+        const unsigned char* place = input.Cursor();
+        if (input.Available() < bytes) [[unlikely]] {
+            return nullptr;
+        }
+        input.Skip(bytes);
+        return place;
     }
 
     // Reports a read of `count` elements that brought only `result`.
@@ -85,7 +108,7 @@ public:
 
     void Write(const void* elements, int elementSize, int count) {
         const std::size_t bytes = static_cast<std::size_t>(elementSize) * static_cast<std::size_t>(count);
-        CheckAssert(output && output->Put(elements, bytes), "fileWriteResult == count");
+        CheckAssert(output.Put(elements, bytes), "fileWriteResult == count");
     }
 
 private:
@@ -97,16 +120,21 @@ private:
     ~File() = default;
 
     bool Open(std::u16string_view fullName);
-    bool Flush() { return !output || output->Flush(); }
+    bool Flush() { return output.Flush(); }
     bool PutText(std::u16string_view text);
+
+    // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
+    static constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
 
     NativeFile stream;
     FileAccess access;
     FileTranslation translation;
+    ReadBuffer input{stream};
+    LineReader lines{input};
+    WriteBuffer output{stream};
+    // More than there ever is where no text belongs.
+    std::size_t plainLineRoom = translation == FileTranslation::Text ? kTabs.size() + kLineRoom : SIZE_MAX / 2;
     FixedString<kNameCapacity> name;
-    std::optional<ReadBuffer> input;
-    std::optional<LineReader> lines;
-    std::optional<WriteBuffer> output;
 };
 
 } // namespace Vorn

@@ -4,6 +4,13 @@
 
 namespace Vorn {
 
+void ReadBuffer::Open() {
+    block = std::make_unique_for_overwrite<unsigned char[]>(kFileBlock + kSlack);
+    block[0] = 0;
+    cursor = end = block.get();
+    ended = false;
+}
+
 bool ReadBuffer::Fill(std::size_t count) {
     if (ended) {
         return false;
@@ -35,15 +42,24 @@ std::size_t ReadBuffer::Take(void* bytes, std::size_t count) {
     return taken;
 }
 
+void WriteBuffer::Open() {
+    block = std::make_unique_for_overwrite<char[]>(kFileBlock);
+    cursor = block.get();
+    end = cursor + kFileBlock;
+}
+
 bool WriteBuffer::Flush() {
     const auto count = static_cast<std::size_t>(cursor - block.get());
     cursor = block.get();
-    return file.Write(block.get(), count);
+    return !IsOpen() || file.Write(block.get(), count);
 }
 
 bool WriteBuffer::PutLarge(const void* bytes, std::size_t count) {
-    bool written = Flush();
-    const auto* part = static_cast<const unsigned char*>(bytes);
+    if (!IsOpen()) {
+        return false;
+    }
+    bool written = count <= Room() || Flush();
+    const auto* part = static_cast<const char*>(bytes);
     for (; count > kFileBlock; part += kFileBlock, count -= kFileBlock) {
         written = file.Write(part, kFileBlock) && written;
     }

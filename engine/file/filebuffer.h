@@ -10,19 +10,20 @@ namespace Vorn {
 // The block of memory between a file and its user. Reading fills it, writing empties it, in blocks of kFileBlock bytes.
 inline constexpr std::size_t kFileBlock = 65536;
 
-// The buffered bytes of a file that is read.
+// The buffered bytes of a file that is read. Unless it is opened it is that of an empty file.
 class ReadBuffer {
 public:
     // Bytes that may be looked at behind the last one; the first of them is 0.
     static constexpr std::size_t kSlack = 96;
 
-    explicit ReadBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock + kSlack]) {
-        block[0] = 0;
-    }
+    explicit ReadBuffer(NativeFile& _file) : file(_file) {}
+
+    void Open();
 
     std::size_t Available() const { return static_cast<std::size_t>(end - cursor); }
     const unsigned char* Cursor() const { return cursor; }
     void Skip(std::size_t count) { cursor += count; }
+    void SkipTo(const unsigned char* place) { cursor = place; }
 
     // Tries to make `count` bytes available, at most kFileBlock; fewer are there only at the end of the file.
     bool Ensure(std::size_t count) { return Available() >= count || Fill(count); }
@@ -36,26 +37,31 @@ public:
 private:
     bool Fill(std::size_t count);
 
+    static constexpr unsigned char kNothing[kSlack] = {};
+
     NativeFile& file;
     std::unique_ptr<unsigned char[]> block;
-    const unsigned char* cursor = block.get();
-    const unsigned char* end = block.get();
+    const unsigned char* cursor = kNothing;
+    const unsigned char* end = kNothing;
     std::size_t nextRead = kFirstRead;
-    bool ended = false;
+    bool ended = true;
     bool failed = false;
 
     // The form of a file is told from its first bytes, and most content files are small.
     static constexpr std::size_t kFirstRead = 8192;
 };
 
-// The buffered bytes of a file that is written.
+// The buffered bytes of a file that is written. Unless it is opened there is no room and every write fails.
 class WriteBuffer {
 public:
-    explicit WriteBuffer(NativeFile& _file) : file(_file), block(new unsigned char[kFileBlock]) {}
+    explicit WriteBuffer(NativeFile& _file) : file(_file) {}
+
+    void Open();
+    bool IsOpen() const { return block != nullptr; }
 
     // False if a block could not be written; its bytes are lost then.
     bool Put(const void* bytes, std::size_t count) {
-        if (count > Room()) {
+        if (count >= Room()) [[unlikely]] {
             return PutLarge(bytes, count);
         }
         std::memcpy(cursor, bytes, count);
@@ -63,22 +69,25 @@ public:
         return true;
     }
 
+    std::size_t Room() const { return static_cast<std::size_t>(end - cursor); }
+
     // A place for `count` bytes, at most kFileBlock, and how many of them were then used.
     char* Reserve(std::size_t count, bool& written) {
         written = count <= Room() || Flush();
-        return reinterpret_cast<char*>(cursor);
+        return cursor;
     }
-    void Commit(const char* usedEnd) { cursor = block.get() + (usedEnd - reinterpret_cast<char*>(block.get())); }
+    char* Cursor() { return cursor; }
+    void Commit(char* usedEnd) { cursor = usedEnd; }
 
     bool Flush();
 
 private:
-    std::size_t Room() const { return kFileBlock - static_cast<std::size_t>(cursor - block.get()); }
     bool PutLarge(const void* bytes, std::size_t count);
 
     NativeFile& file;
-    std::unique_ptr<unsigned char[]> block;
-    unsigned char* cursor = block.get();
+    std::unique_ptr<char[]> block;
+    char* cursor = nullptr;
+    char* end = nullptr;
 };
 
 } // namespace Vorn

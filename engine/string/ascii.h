@@ -1,12 +1,15 @@
 #pragma once
 
+#include "engine/core/inlining.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
-#if defined(__SSE2__) || defined(_M_X64)
+#if defined(__x86_64__) || defined(_M_X64)
 #include <emmintrin.h>
 #define VORN_HAS_SSE2 1
 #endif
@@ -26,7 +29,7 @@ inline bool EqualsEach(const char* bytes, std::u16string_view text) {
 inline bool NarrowEach(const char16_t* units, std::size_t count, char* out) {
     bool plain = true;
     for (std::size_t i = 0; i < count; ++i) {
-        plain = plain && units[i] < 0x80 && units[i] != u'\n';
+        plain = plain && units[i] < 0x80 && units[i] >= u' ';
         out[i] = static_cast<char>(units[i]);
     }
     return plain;
@@ -36,7 +39,8 @@ inline bool NarrowEach(const char16_t* units, std::size_t count, char* out) {
 
 #ifdef VORN_HAS_SSE2
 
-// The last block of every loop overlaps the one before, so that nothing outside the text is read or written.
+// The last block of every loop overlaps the one before, so that nothing outside the text is read or written. A text
+// shorter than a block is taken as two halves that overlap.
 namespace Ascii {
 
 inline constexpr std::size_t kUnits = 8;
@@ -46,6 +50,53 @@ inline const __m128i* Block(const void* place) {
 }
 inline __m128i* Block(void* place) {
     return static_cast<__m128i*>(place);
+}
+
+template <class Word>
+Word Load(const void* place) {
+    Word word;
+    std::memcpy(&word, place, sizeof word);
+    return word;
+}
+
+// The first and the last units of a text, as many of each as half of `Ends` has bytes; they overlap where the text is
+// shorter.
+template <class Ends>
+VORN_ALWAYS_INLINE __m128i LoadEnds(const char16_t* units, std::size_t count) {
+    if constexpr (sizeof(Ends) == 8) {
+        return _mm_unpacklo_epi64(_mm_loadl_epi64(Block(units)), _mm_loadl_epi64(Block(units + count - 4)));
+    } else {
+        return _mm_unpacklo_epi32(_mm_cvtsi32_si128(Load<int>(units)), _mm_cvtsi32_si128(Load<int>(units + count - 2)));
+    }
+}
+
+// The same narrowed to bytes, plain text or not.
+template <class Ends>
+VORN_ALWAYS_INLINE Ends NarrowEnds(__m128i units) {
+    return static_cast<Ends>(_mm_cvtsi128_si64(_mm_packus_epi16(units, units)));
+}
+
+template <class Ends, class Half>
+VORN_ALWAYS_INLINE bool EqualsEnds(const char* bytes, const char16_t* units, std::size_t count) {
+    const Ends ends = Load<Half>(bytes) | Ends{Load<Half>(bytes + count - sizeof(Half))} << (8 * sizeof(Half));
+    return ends == NarrowEnds<Ends>(LoadEnds<Ends>(units, count));
+}
+
+// Units that are no plain text saturate to bytes below the blank, if those have a sign.
+VORN_ALWAYS_INLINE __m128i ArePlain(__m128i bytes) {
+    return _mm_cmpgt_epi8(bytes, _mm_set1_epi8(' ' - 1));
+}
+
+template <class Ends, class Half>
+VORN_ALWAYS_INLINE bool PutEnds(const char16_t* units, std::size_t count, char* out) {
+    const __m128i loaded = LoadEnds<Ends>(units, count);
+    const auto ends = NarrowEnds<Ends>(loaded);
+    const auto first = static_cast<Half>(ends);
+    const auto last = static_cast<Half>(ends >> (8 * sizeof(Half)));
+    std::memcpy(out, &first, sizeof first);
+    std::memcpy(out + count - sizeof last, &last, sizeof last);
+    constexpr int kMask = (1 << sizeof(Ends)) - 1;
+    return (_mm_movemask_epi8(ArePlain(_mm_packus_epi16(loaded, loaded))) & kMask) == kMask;
 }
 
 } // namespace Ascii
@@ -76,59 +127,53 @@ inline std::size_t WidenUntil(const unsigned char* bytes, std::size_t count, cha
     return 0;
 }
 
-// Whether the bytes are those of a text; kUnits bytes have to be readable where the text is shorter.
-inline bool EqualsAscii(const char* bytes, std::u16string_view text) {
+// Whether the bytes are those of a plain text.
+VORN_ALWAYS_INLINE bool EqualsAscii(const char* bytes, std::u16string_view text) {
     using namespace Ascii;
     const std::size_t count = text.size();
-    const __m128i zero = _mm_setzero_si128();
-    const auto compare = [&](std::size_t i, __m128i units) {
-        const __m128i wide = _mm_unpacklo_epi8(_mm_loadl_epi64(Block(bytes + i)), zero);
-        return _mm_movemask_epi8(_mm_cmpeq_epi16(wide, units));
-    };
     if (count >= kUnits) {
-        int equal = compare(count - kUnits, _mm_loadu_si128(Block(text.data() + count - kUnits)));
+        const auto compare = [&](std::size_t i) {
+            const __m128i wide = _mm_unpacklo_epi8(_mm_loadl_epi64(Block(bytes + i)), _mm_setzero_si128());
+            return _mm_movemask_epi8(_mm_cmpeq_epi16(wide, _mm_loadu_si128(Block(text.data() + i))));
+        };
+        int equal = compare(count - kUnits);
         for (std::size_t i = 0; i + kUnits < count; i += kUnits) {
-            equal &= compare(i, _mm_loadu_si128(Block(text.data() + i)));
+            equal &= compare(i);
         }
         return equal == 0xFFFF;
     }
-    constexpr std::size_t kHalf = kUnits / 2;
-    if (count >= kHalf) {
-        const int equal = compare(0, _mm_loadl_epi64(Block(text.data()))) &
-                          compare(count - kHalf, _mm_loadl_epi64(Block(text.data() + count - kHalf)));
-        return (equal & 0xFF) == 0xFF;
+    if (count >= kUnits / 2) {
+        return EqualsEnds<std::uint64_t, std::uint32_t>(bytes, text.data(), count);
+    }
+    if (count >= kUnits / 4) {
+        return EqualsEnds<std::uint32_t, std::uint16_t>(bytes, text.data(), count);
     }
     return EqualsEach(bytes, text);
 }
 
-// Narrows units that are all below U+0080 and no line feed.
-inline bool NarrowAscii(const char16_t* units, std::size_t count, char* out) {
+// Narrows units that are all of U+0020 to U+007F.
+VORN_ALWAYS_INLINE bool NarrowAscii(const char16_t* units, std::size_t count, char* out) {
     using namespace Ascii;
-    constexpr std::size_t kHalf = kUnits / 2;
-    if (count < kHalf) {
-        return NarrowEach(units, count, out);
-    }
-    __m128i high = _mm_setzero_si128();
-    __m128i lineFeeds = high;
-    const auto narrow = [&](__m128i block) {
-        high = _mm_or_si128(high, block);
-        lineFeeds = _mm_or_si128(lineFeeds, _mm_cmpeq_epi16(block, _mm_set1_epi16(u'\n')));
-        return _mm_packus_epi16(block, block);
-    };
-    if (count < kUnits) {
-        for (const std::size_t i : {std::size_t{0}, count - kHalf}) {
-            const int bytes = _mm_cvtsi128_si32(narrow(_mm_loadl_epi64(Block(units + i))));
-            std::memcpy(out + i, &bytes, sizeof bytes);
-        }
-    } else {
+    if (count >= kUnits) {
+        const auto narrow = [&](std::size_t i) {
+            const __m128i block = _mm_loadu_si128(Block(units + i));
+            const __m128i bytes = _mm_packus_epi16(block, block);
+            _mm_storel_epi64(Block(out + i), bytes);
+            return ArePlain(bytes);
+        };
+        __m128i plain = narrow(count - kUnits);
         for (std::size_t i = 0; i + kUnits < count; i += kUnits) {
-            _mm_storel_epi64(Block(out + i), narrow(_mm_loadu_si128(Block(units + i))));
+            plain = _mm_and_si128(plain, narrow(i));
         }
-        const std::size_t last = count - kUnits;
-        _mm_storel_epi64(Block(out + last), narrow(_mm_loadu_si128(Block(units + last))));
+        return _mm_movemask_epi8(plain) == 0xFFFF;
     }
-    const __m128i odd = _mm_or_si128(_mm_and_si128(high, _mm_set1_epi16(static_cast<short>(0xFF80))), lineFeeds);
-    return _mm_movemask_epi8(_mm_cmpeq_epi16(odd, _mm_setzero_si128())) == 0xFFFF;
+    if (count >= kUnits / 2) {
+        return PutEnds<std::uint64_t, std::uint32_t>(units, count, out);
+    }
+    if (count >= kUnits / 4) {
+        return PutEnds<std::uint32_t, std::uint16_t>(units, count, out);
+    }
+    return NarrowEach(units, count, out);
 }
 
 // The first such unit from `begin` to `end`, or `end`.

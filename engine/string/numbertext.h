@@ -1,6 +1,12 @@
 #pragma once
 
+#include "engine/core/inlining.h"
+
+#include <array>
+#include <bit>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace Vorn {
 
@@ -18,7 +24,92 @@ char* PutHex64(char* out, std::uint64_t value);
 // The exact decimal value rounded to `places`, ties to even, never an exponent; "inf" and "nan" carry the sign bit.
 char* PutFixed(char* out, double value, int places);
 
-// PutFixed with six places, for the floats that content files are made of: integer arithmetic, exact all the same.
+// PutFixed with six places, for the floats that content files are made of.
 char* PutFixed6(char* out, float value);
+
+// Most numbers, in a few instructions each. Some bytes behind the text are overwritten.
+namespace PlainNumber {
+
+inline constexpr std::uint32_t kThousand = 1000;
+inline constexpr std::uint32_t kMillion = 1000000;
+
+// How a number below 1000 is put.
+struct Text {
+    // Three digits.
+    char padded[4];
+    // As many as it takes, and behind the third place how many that are.
+    char digits[4];
+};
+
+inline constexpr auto kTexts = [] {
+    std::array<Text, kThousand> texts{};
+    for (std::size_t i = 0; i < kThousand; ++i) {
+        Text& text = texts[i];
+        const std::size_t skipped = i < 10 ? 2 : i < 100 ? 1 : 0;
+        for (std::size_t k = 3, rest = i; k-- > 0; rest /= 10) {
+            text.padded[k] = static_cast<char>('0' + rest % 10);
+        }
+        for (std::size_t k = skipped; k < 3; ++k) {
+            text.digits[k - skipped] = text.padded[k];
+        }
+        text.digits[3] = static_cast<char>(3 - skipped);
+    }
+    return texts;
+}();
+
+VORN_ALWAYS_INLINE char* PutThreeDigits(char* out, std::uint32_t value) {
+    std::memcpy(out, kTexts[value].padded, 4);
+    return out + 3;
+}
+
+// A number below a million.
+VORN_ALWAYS_INLINE char* PutUint(char* out, std::uint32_t value) {
+    const std::uint32_t thousands = value / kThousand;
+    const Text& first = kTexts[value < kThousand ? value : thousands];
+    std::memcpy(out, first.digits, 4);
+    out += first.digits[3];
+    return value < kThousand ? out : PutThreeDigits(out, value - thousands * kThousand);
+}
+
+// Puts the sign if there is one.
+VORN_ALWAYS_INLINE char* PutSign(char* out, bool negative) {
+    *out = '-';
+    return out + (negative ? 1 : 0);
+}
+
+VORN_ALWAYS_INLINE bool FitsInt(std::int32_t value) {
+    constexpr auto kLimit = static_cast<std::int32_t>(kMillion);
+    return value > -kLimit && value < kLimit;
+}
+
+VORN_ALWAYS_INLINE char* PutInt(char* out, std::int32_t value) {
+    return PutUint(PutSign(out, value < 0), static_cast<std::uint32_t>(value < 0 ? -value : value));
+}
+
+constexpr std::uint32_t MagnitudeBits(float value) {
+    return std::bit_cast<std::uint32_t>(value) & 0x7FFFFFFF;
+}
+
+// The bits of positive floats sort like the floats, with everything that is not finite on top.
+VORN_ALWAYS_INLINE bool FitsFixed6(float value) {
+    return MagnitudeBits(value) < MagnitudeBits(static_cast<float>(kMillion));
+}
+
+// The product is exact, a number of 24 bits by one of 20. Adding 2^52 leaves its integral part in the low bits, rounded
+// to nearest, ties to even.
+VORN_ALWAYS_INLINE char* PutFixed6(char* out, float value) {
+    constexpr double kInteger = 4503599627370496.0;
+    const auto magnitude = static_cast<double>(std::bit_cast<float>(MagnitudeBits(value)));
+    const double rounded = magnitude * static_cast<double>(kMillion) + kInteger;
+    const std::uint64_t millionths = std::bit_cast<std::uint64_t>(rounded) - std::bit_cast<std::uint64_t>(kInteger);
+    const auto units = static_cast<std::uint32_t>(millionths / kMillion);
+    const auto decimals = static_cast<std::uint32_t>(millionths - std::uint64_t{units} * kMillion);
+    out = PutUint(PutSign(out, std::bit_cast<std::uint32_t>(value) >> 31 != 0), units);
+    *out++ = '.';
+    const std::uint32_t thousandths = decimals / kThousand;
+    return PutThreeDigits(PutThreeDigits(out, thousandths), decimals - thousandths * kThousand);
+}
+
+} // namespace PlainNumber
 
 } // namespace Vorn

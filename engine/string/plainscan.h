@@ -11,80 +11,94 @@ namespace Vorn {
 // Takes values straight from the bytes of a text file in exactly the form that they are written in, step by step like
 // Scanner. A step that meets any other form, valid or not, ends it, and the caller goes the general road with the whole
 // line; so nothing here has to tell good from bad. Needs kPlainSlack readable bytes behind the text, the first of them
-// 0.
+// 0. What it takes is always shorter than kLongestPlainLine.
 inline constexpr std::size_t kPlainSlack = 96;
+inline constexpr std::size_t kLongestPlainLine = 1024;
 
 class PlainScanner {
 public:
     explicit PlainScanner(const char* text) : cursor(text) {}
 
-    // Whether all steps so far met their form.
-    bool IsGood() const { return good; }
     const char* Cursor() const { return cursor; }
 
-    PlainScanner& Tabs() {
-        while (*cursor == '\t') {
-            ++cursor;
+    // Up to seven.
+    VORN_ALWAYS_INLINE PlainScanner& Tabs() {
+        const std::uint64_t other = WordAt(cursor) ^ kEachByte * '\t';
+        if (other == 0) [[unlikely]] {
+            return Fail();
         }
+        cursor += BytesBelow(other);
         return *this;
     }
 
     // One blank.
-    PlainScanner& Blank() { return Literal(u' '); }
+    VORN_ALWAYS_INLINE PlainScanner& Blank() { return Literal(u' '); }
 
-    PlainScanner& Literal(char16_t unit) {
-        if (*cursor == static_cast<char>(unit)) [[likely]] {
-            ++cursor;
-            return *this;
+    VORN_ALWAYS_INLINE PlainScanner& Literal(char16_t unit) {
+        if (*cursor != static_cast<char>(unit)) [[unlikely]] {
+            return Fail();
         }
-        return Fail();
+        ++cursor;
+        return *this;
     }
 
     // A text that leaves some of the slack.
-    PlainScanner& Word(std::u16string_view word) {
-        if (word.size() <= kLongestWord && EqualsAscii(cursor, word)) [[likely]] {
-            cursor += word.size();
-            return *this;
-        }
-        return Fail();
-    }
-
-    // Up to nine digits, so that no number needs to wrap.
-    PlainScanner& Int(std::int32_t& value) {
-        const bool negative = *cursor == '-';
-        const char* start = cursor + (negative ? 1 : 0);
-        std::uint32_t magnitude = 0;
-        const char* end = TakeDigits(start, magnitude);
-        if (!IsShort(end - start)) [[unlikely]] {
+    VORN_ALWAYS_INLINE PlainScanner& Word(std::u16string_view word) {
+        if (word.size() > kLongestWord || !EqualsAscii(cursor, word)) [[unlikely]] {
             return Fail();
         }
-        cursor = end;
-        value = static_cast<std::int32_t>(negative ? 0 - magnitude : magnitude);
+        cursor += word.size();
+        return *this;
+    }
+
+    // Up to seven digits.
+    VORN_ALWAYS_INLINE PlainScanner& Int(std::int32_t& value) {
+        const bool negative = *cursor == '-';
+        const char* start = cursor + (negative ? 1 : 0);
+        const std::uint64_t digits = WordAt(start) ^ kEachByte * '0';
+        const std::uint64_t others = BeyondNine(digits);
+        const std::size_t count = BytesBelow(others);
+        if (others == 0 || count == 0) [[unlikely]] {
+            return Fail();
+        }
+        cursor = start + count;
+        const auto magnitude = static_cast<std::int32_t>(SumOfDigits(digits << (64 - 8 * count)));
+        value = negative ? -magnitude : magnitude;
         return *this;
     }
 
     // Up to nine digits, a point and six more. Their quotient is exact in 64 bits but for one rounding; the second one
     // is safe unless it starts from the middle between two floats.
-    PlainScanner& Float(float& value) {
+    VORN_ALWAYS_INLINE PlainScanner& Float(float& value) {
         const bool negative = *cursor == '-';
         const char* start = cursor + (negative ? 1 : 0);
-        std::uint64_t millionths = 0;
-        const char* point = TakeDigits(start, millionths);
-        if (!IsShort(point - start) || *point != '.' || !AddSixDigits(point + 1, millionths)) [[unlikely]] {
+        std::uint64_t number = DigitAt(start);
+        if (number >= 10) [[unlikely]] {
             return Fail();
         }
-        cursor = point + 7;
-        const double quotient = static_cast<double>(millionths) / 1e6;
+        const char* point = start + 1;
+        const char* limit = start + 9;
+        for (std::uint32_t digit = DigitAt(point); digit < 10 && point != limit; digit = DigitAt(point)) {
+            number = number * 10 + digit;
+            ++point;
+        }
+        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
+        if (((digits | (digits + kBeyondNine)) & kWrongBits) != 0) [[unlikely]] {
+            return Fail();
+        }
+        const std::uint64_t millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
+        const double quotient = static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6;
         if ((std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) == 0x10000000) [[unlikely]] {
             return Fail();
         }
+        cursor = point + 7;
         const auto magnitude = static_cast<float>(quotient);
         value = negative ? -magnitude : magnitude;
         return *this;
     }
 
     // Up to eight lower-case digits.
-    PlainScanner& Hex(std::uint32_t& value) {
+    VORN_ALWAYS_INLINE PlainScanner& Hex(std::uint32_t& value) {
         const char* start = cursor;
         std::uint32_t number = 0;
         for (std::uint32_t digit = HexDigit(); digit < 16; digit = HexDigit()) {
@@ -105,7 +119,8 @@ public:
             return Fail();
         }
         const auto* text = reinterpret_cast<const unsigned char*>(cursor + 1);
-        const std::size_t length = WidenUntil(text, static_cast<std::size_t>(bufferSize - kRoom), buffer, '"');
+        const auto limit = static_cast<std::size_t>(bufferSize - kRoom);
+        const std::size_t length = WidenUntil(text, std::min(limit, kLongestText), buffer, '"');
         if (length == 0) [[unlikely]] {
             return Fail();
         }
@@ -114,54 +129,67 @@ public:
         return *this;
     }
 
-    PlainScanner& LineEnd() {
-        cursor += *cursor == '\r' ? 1 : 0;
-        return Literal(u'\n');
+    // Whether the line ends here and all steps so far met their form.
+    VORN_ALWAYS_INLINE bool LineEnd() {
+        const bool hasReturn = std::memcmp(cursor, "\r\n", 2) == 0;
+        if (!hasReturn && *cursor != '\n') [[unlikely]] {
+            return false;
+        }
+        cursor += hasReturn ? 2 : 1;
+        return true;
     }
 
 private:
     static constexpr std::size_t kLongestWord = kPlainSlack - 2 * kWidenBlock;
+    static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
+    static constexpr std::uint64_t kEachByte = 0x0101010101010101;
 
-    static bool IsShort(std::ptrdiff_t digits) { return digits >= 1 && digits <= 9; }
+    // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
+    // is added takes a digit beyond 9 to its top bit; of the point every bit is wrong.
+    static constexpr std::uint64_t kPointByte = 0xFF00;
+    static constexpr std::uint64_t kPointAndSix = kEachByte * '0' ^ std::uint64_t{'0' ^ '.'} << 8;
+    static constexpr std::uint64_t kBeyondNine = kEachByte * (0x7F - 9) & ~kPointByte;
+    static constexpr std::uint64_t kWrongBits = kEachByte * 0x80 | kPointByte;
+
+    // No step fits what follows but an empty word or text.
+    static constexpr char kNothing[kPlainSlack] = {};
 
     PlainScanner& Fail() {
-        static constexpr char kNothing[kPlainSlack] = {};
         cursor = kNothing;
-        good = false;
         return *this;
     }
 
-    // Appends digits to a number and returns where they end.
-    template <class Number>
-    static const char* TakeDigits(const char* p, Number& number) {
-        for (std::uint32_t digit = DigitAt(p); digit < 10; digit = DigitAt(p)) {
-            number = number * 10 + digit;
-            ++p;
+    // Eight bytes, the first one lowest.
+    static std::uint64_t WordAt(const char* p) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, p, sizeof word);
+        if constexpr (std::endian::native == std::endian::big) {
+            word = SwapBytes(word);
         }
-        return p;
+        return word;
     }
 
-    // Appends exactly six digits. They are taken as the last of eight in the bytes of a word, summed by pairs, then by
-    // fours.
-    static bool AddSixDigits(const char* p, std::uint64_t& number) {
-        if constexpr (std::endian::native != std::endian::little) {
-            return false;
+    static std::uint64_t SwapBytes(std::uint64_t word) {
+        std::uint64_t swapped = 0;
+        for (int i = 0; i < 8; ++i, word >>= 8) {
+            swapped = swapped << 8 | (word & 0xFF);
         }
-        constexpr std::uint64_t kEachByte = 0x0101010101010101;
-        std::uint64_t digits = 0;
-        std::memcpy(&digits, p, sizeof digits);
-        digits ^= kEachByte * '0';
-        const std::uint64_t beyondNine = (digits | (digits + kEachByte * 0x76)) & kEachByte * 0x80;
-        if ((beyondNine & 0x00FFFFFFFFFFFFFF) != std::uint64_t{0x80} << 48) {
-            return false;
-        }
-        digits <<= 16;
-        const std::uint64_t pairs = digits * 10 + (digits >> 8);
-        constexpr std::uint64_t kEveryFourth = 0x000000FF000000FF;
-        const std::uint64_t sum = (pairs & kEveryFourth) * (100 + (std::uint64_t{1000000} << 32)) +
-                                  (pairs >> 16 & kEveryFourth) * (1 + (std::uint64_t{10000} << 32));
-        number = number * 1000000 + (sum >> 32);
-        return true;
+        return swapped;
+    }
+
+    // How many bytes there are below the lowest one that has a bit.
+    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
+
+    // The top bit of each byte beyond 9, up to the first one and with it; behind a byte that is not, anything.
+    VORN_ALWAYS_INLINE static std::uint64_t BeyondNine(std::uint64_t digits) {
+        return (digits | (digits + kEachByte * (0x7F - 9))) & kEachByte * 0x80;
+    }
+
+    // The number that the eight bytes are the digits of: summed by pairs, then by fours, each sum on top of its lanes.
+    VORN_ALWAYS_INLINE static std::uint64_t SumOfDigits(std::uint64_t digits) {
+        const std::uint64_t pairs = digits * (1 + (10 << 8)) >> 8 & 0x00FF00FF00FF00FF;
+        const std::uint64_t fours = pairs * (1 + (100 << 16)) >> 16 & 0x0000FFFF0000FFFF;
+        return fours * (1 + (std::uint64_t{10000} << 32)) >> 32;
     }
 
     static std::uint32_t DigitAt(const char* p) {
@@ -175,7 +203,6 @@ private:
     }
 
     const char* cursor;
-    bool good = true;
 };
 
 } // namespace Vorn

@@ -7,6 +7,7 @@
 #include <memory>
 #include <span>
 #include <utility>
+#include <vector>
 
 namespace Vorn {
 
@@ -42,10 +43,12 @@ constexpr KeyGroup kFrontBack = {4, 6, &Vector3::x};
 template <KeyGroup group>
 std::uint32_t FacedDirections(const Vector3& normal) {
     std::uint32_t faced = 0;
-    for (int i = group.firstDirection; i < group.endDirection; ++i) {
+    // The second of two opposite directions has the cosine of the first with the other sign, exactly.
+    for (int i = group.firstDirection; i < group.endDirection; i += 2) {
         const Vector3& axis = kDirections[i].axis;
         const float cosine = normal.x * axis.x + normal.y * axis.y + normal.z * axis.z;
         faced |= static_cast<std::uint32_t>(cosine >= kLeastCosine) << i;
+        faced |= static_cast<std::uint32_t>(-cosine >= kLeastCosine) << (i + 1);
     }
     return faced;
 }
@@ -96,30 +99,33 @@ public:
     // Calls `visit` with index and faced directions.
     template <KeyGroup group, class Visit>
     void ForEach(Visit visit) {
-        const std::array<std::size_t, kBins> counts = AssignBins<group>();
+        if (vertices.size() <= kMostUnsliced) {
+            MakeRoom(vertices.size());
+            VisitSlice<group>(0, kBins, visit);
+            return;
+        }
+        const std::vector<std::size_t> counts = AssignBins<group>();
         const std::size_t room =
             std::max({kLeastRoom, vertices.size() / kMostSlices, *std::max_element(counts.begin(), counts.end())});
+        MakeRoom(room);
         for (std::uint32_t bin = 0; bin < kBins;) {
             const std::uint32_t first = bin;
             std::size_t count = 0;
             while (bin < kBins && count + counts[bin] <= room) {
                 count += counts[bin++];
             }
-            for (const Entry entry : SortSlice<group>(first, bin, count)) {
-                visit(static_cast<std::int32_t>(entry >> kIndexShift & kIndexMask),
-                      static_cast<std::uint32_t>(entry & kFacedMask));
-            }
+            VisitSlice<group>(first, bin, visit);
         }
     }
 
 private:
     // A bin is a range of keys by their upper bits.
-    static constexpr int kBinShift = kKeyShift + 20;
+    static constexpr int kBinShift = kKeyShift + 18;
     static constexpr std::uint32_t kBins = 1U << (63 - kBinShift);
     static constexpr std::uint16_t kNoBin = kBins;
     static constexpr std::size_t kMostUnsliced = std::size_t{1} << 18;
     static constexpr std::size_t kLeastRoom = std::size_t{1} << 17;
-    static constexpr std::size_t kMostSlices = 12;
+    static constexpr std::size_t kMostSlices = 16;
     static constexpr Entry kFacedMask = (Entry{1} << kIndexShift) - 1;
     static constexpr Entry kIndexMask = (Entry{1} << (kKeyShift - kIndexShift)) - 1;
 
@@ -132,14 +138,10 @@ private:
                           : Entry{KeyOf(vertex.position.*group.axis, radius)} << kKeyShift | i << kIndexShift | faced;
     }
 
-    // Notes the bin of each vertex and counts them; a mesh that is not sliced has one bin for all.
+    // Notes the bin of each vertex and counts them.
     template <KeyGroup group>
-    std::array<std::size_t, kBins> AssignBins() {
-        std::array<std::size_t, kBins> counts{};
-        if (vertices.size() <= kMostUnsliced) {
-            counts[0] = vertices.size();
-            return counts;
-        }
+    std::vector<std::size_t> AssignBins() {
+        std::vector<std::size_t> counts(kBins);
         if (bins == nullptr) {
             bins = std::make_unique_for_overwrite<std::uint16_t[]>(vertices.size());
         }
@@ -153,14 +155,17 @@ private:
         return counts;
     }
 
-    // At most `room` vertices are in the bins from `first` to `end`.
-    template <KeyGroup group>
-    std::span<const Entry> SortSlice(std::uint32_t first, std::uint32_t end, std::size_t room) {
+    void MakeRoom(std::size_t room) {
         if (room > capacity) {
             capacity = room;
             entries = std::make_unique_for_overwrite<Entry[]>(room);
             scratch = std::make_unique_for_overwrite<Entry[]>(room);
         }
+    }
+
+    // The vertices in the bins from `first` to `end` must fit the room.
+    template <KeyGroup group, class Visit>
+    void VisitSlice(std::uint32_t first, std::uint32_t end, Visit visit) {
         std::size_t count = 0;
         for (std::size_t i = 0; i < vertices.size(); ++i) {
             if (bins == nullptr || (bins[i] >= first && bins[i] < end)) {
@@ -169,7 +174,10 @@ private:
                 count += entry != 0 ? 1 : 0;
             }
         }
-        return SortByKey({entries.get(), count}, {scratch.get(), count});
+        for (const Entry entry : SortByKey({entries.get(), count}, {scratch.get(), count})) {
+            visit(static_cast<std::int32_t>(entry >> kIndexShift & kIndexMask),
+                  static_cast<std::uint32_t>(entry & kFacedMask));
+        }
     }
 
     Vertices vertices;

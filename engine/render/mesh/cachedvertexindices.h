@@ -17,8 +17,7 @@ inline constexpr MeshDirection kDirections[Mesh::Data::kDirectionCount] = {
 
 // Fills the list of each direction with the vertices whose normal is at most three eighths of pi away from it, ordered
 // by their distance from `boundingRadius` on the z axis, in FRONT and BACK on the x axis, equal ones by index. Vertices
-// closer than a hundredth of the radius to the one listed before them are left out. Takes linear time, and beside the
-// lists at most a few bytes a vertex.
+// closer than a hundredth of the radius to the one listed before them are left out. Takes linear time.
 void CacheVertexIndices(const DynamicArray<Mesh::Vertex>& vertices, float boundingRadius,
                         FixedArray<Mesh::Data::VertexIndexVector, Mesh::Data::kDirectionCount>& lists);
 

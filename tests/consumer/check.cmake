@@ -10,7 +10,7 @@ function(run)
 endfunction()
 
 function(expect_same one other)
-  run(${CMAKE_COMMAND} -E compare_files ${one} ${other})
+  run(${CMAKE_COMMAND} -E compare_files --ignore-eol ${one} ${other})
 endfunction()
 
 # Builds and expects that just these files are converted.

@@ -173,6 +173,7 @@ void TextFileArchive::ReportMissingQuote(Label label) const {
 // this class writes. Says false and takes nothing for every other line, which then goes the general road.
 template <class Scan>
 VORN_ALWAYS_INLINE bool TextFileArchive::TakePlain(Label label, Scan scan) {
+    static_assert(kLongestPlainLine <= kLineCapacity);
     if (m_CurrentLineUnread || !file->HasPlainText()) [[unlikely]] {
         return false;
     }
@@ -286,11 +287,10 @@ VORN_ALWAYS_INLINE bool TextFileArchive::FindRecord(Label label) {
 }
 
 void TextFileArchive::Read(Label label, Color& value) {
-    const auto take = [&value](std::uint32_t packed) { value = Color::FromUInt(packed); };
     std::uint32_t packed = 0;
     if (TakePlain(label, [&](PlainScanner& scanner) { HexForm::Scan(scanner.Blank(), packed); }) ||
         ScanForm<HexForm>(label, packed) == 1) {
-        take(packed);
+        value = Color::FromUInt(packed);
     }
 }
 

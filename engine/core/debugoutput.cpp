@@ -35,15 +35,12 @@ void WriteDebugOutput(const char16_t* text) {
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, bytes, static_cast<std::size_t>(end - bytes));
 }
 
-// A tracer shows in the process status as a process number other than 0.
+// A tracer shows in the process status as a process number other than 0. The status stays open, since a damaged file may
+// fail a million checks, and each asks anew.
 bool IsDebuggerAttached() {
-    const int status = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
-    if (status < 0) {
-        return false;
-    }
+    static const int status = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
     char text[2048];
-    const ssize_t count = read(status, text, sizeof text - 1);
-    close(status);
+    const ssize_t count = pread(status, text, sizeof text - 1, 0);
     text[count > 0 ? count : 0] = '\0';
     constexpr const char* kField = "TracerPid:";
     const char* field = std::strstr(text, kField);

@@ -3,6 +3,7 @@
 #include "tests/support/archivetest.h"
 
 #include <bit>
+#include <random>
 
 namespace Vorn {
 
@@ -226,6 +227,35 @@ TEST_F(FileArchiveTest, ValuesInText) {
             read.string = all.string;
         }
         EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(read)), replaced(row.result));
+    }
+}
+
+// Plain bytes take a quick road into a field and units of other encodings the general one; both must agree.
+TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
+    const auto seed = std::random_device()();
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    std::mt19937 random(seed);
+    constexpr std::string_view kParts = "0123456789.-+eExfTAL[],\" \t\r\n";
+    for (int i = 0; i < 3000 && !HasFailure(); ++i) {
+        std::string text = std::string(kTextHeader) + std::string(kPlainText);
+        text.replace(text.find("\xC3\xB6"), 2, "o");
+        for (auto faults = random() % 4; faults > 0; --faults) {
+            const std::size_t at = 4 + random() % (text.size() - 4);
+            text.replace(at, random() % 2, random() % 3, kParts[random() % kParts.size()]);
+        }
+        std::string wide = "\xFF\xFE";
+        for (const char byte : text) {
+            wide += {byte, '\0'};
+        }
+        AllKinds fromPlain;
+        AllKinds fromWide;
+        const std::uint32_t plainSum = Read(text, FieldsOf(fromPlain));
+        const Reports plainReports = TakeReports();
+        EXPECT_EQ(plainSum, Read(wide, FieldsOf(fromWide))) << text;
+        EXPECT_EQ(plainReports, TakeReports()) << text;
+        EXPECT_TRUE(Written(FileArchiveType::Binary, FieldsOf(fromPlain)) ==
+                    Written(FileArchiveType::Binary, FieldsOf(fromWide)))
+            << text;
     }
 }
 

@@ -16,11 +16,10 @@ TEST_F(FileSystemTest, WritesTextWithMarkAndLineEnds) {
     File* file = Open("text", FileAccess::Write, FileTranslation::Text);
     file->Print(u"%s\n", u"Größe");
     file->PrintText(u"a\rb\n\n\xD800|\U0001F680");
-    file->PrintLine(18, u"%s \x1A");
+    file->PrintText(u"%s \x1A\n");
     core->fileSystem.Close(file);
     EXPECT_EQ(ReadBytes(folder.Path() / "text"), "\xEF\xBB\xBFGr\xC3\xB6\xC3\x9F"
-                                                 "e\r\na\rb\r\n\r\n\xEF\xBF\xBD|\xF0\x9F\x9A\x80" +
-                                                     std::string(18, '\t') + "%s \x1A\r\n");
+                                                 "e\r\na\rb\r\n\r\n\xEF\xBF\xBD|\xF0\x9F\x9A\x80%s \x1A\r\n");
     EXPECT_EQ(core->fileSystem.OpenCount(), 0);
 }
 

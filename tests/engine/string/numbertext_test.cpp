@@ -12,8 +12,8 @@ namespace {
 
 template <class Put, class... Arguments>
 std::string TextOf(Put put, Arguments... arguments) {
-    char16_t units[kNumberTextCapacity];
-    return Utf8({units, static_cast<std::size_t>(put(units, arguments...) - units)});
+    char digits[kNumberTextCapacity];
+    return {digits, put(digits, arguments...)};
 }
 
 std::string LibraryFixed(double value, int places) {

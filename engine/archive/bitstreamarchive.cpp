@@ -57,13 +57,15 @@ std::uint32_t BitStreamArchive::ReadBits(int bitCount) {
 
 void BitStreamArchive::WriteBits(std::uint32_t value, int bitCount) {
     CheckAssert(bitCount > 0, "bitCount > 0");
-    CheckAssert(bitCount <= kWordBits, "(unsigned int)(bitCount) <= (sizeof(unsigned int) * 8U)");
+    CheckAssert(static_cast<unsigned>(bitCount) <= kWordBits,
+                "(unsigned int)(bitCount) <= (sizeof(unsigned int) * 8U)");
     CheckFits(value, bitCount);
     for (int bit = 0; bit < std::min(bitCount, kWordBits); ++bit) {
-        if (currentPos == stream.size()) {
-            stream.push_back(0);
+        if (currentPos >= stream.size()) {
+            stream.resize(currentPos + 1);
         }
-        stream[currentPos] = static_cast<unsigned char>(stream[currentPos] | (value >> bit & 1) << currentBit);
+        const unsigned others = stream[currentPos] & ~(1u << currentBit);
+        stream[currentPos] = static_cast<unsigned char>(others | (value >> bit & 1) << currentBit);
         NextBit();
     }
 }

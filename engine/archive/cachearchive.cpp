@@ -151,6 +151,7 @@ CacheArchive::~CacheArchive() {
 }
 
 bool CacheArchive::OpenWriteFile(std::u16string_view fileName) {
+    CloseWriteFile();
     CheckAssert(MakeWritable(fileName), "bResult == TRUE");
     writeFile = fileSystem.Open(fileName, FileAccess::Write, FileTranslation::Binary);
     return writeFile != nullptr;

@@ -15,8 +15,9 @@ public:
     explicit CacheArchive(FileSystem& _fileSystem) : fileSystem(_fileSystem) {}
     ~CacheArchive() override;
 
-    // Makes the file writable first, with the check "bResult == TRUE"; what is written until CloseWriteFile goes there.
-    // False, after a report, if the file cannot be opened.
+    // What is written until CloseWriteFile goes to this file alone. It is made writable first; the check
+    // "bResult == TRUE" fires if that fails, also for a file that is not there yet. False, after a report, if the file
+    // cannot be opened; then all writes are dropped.
     bool OpenWriteFile(std::u16string_view fileName);
     void CloseWriteFile();
 

@@ -5,10 +5,13 @@
 
 namespace Vorn {
 
-// The bytes of a remote storage area. An access past its end fires the check "false", moves nothing and leaves its
-// destination.
+// The bytes of a remote storage area. A scalar past its end fires the check "false", moves nothing and leaves its
+// destination; so do the units of a text as a whole.
 struct StorageBytes {
     RemoteStorage* storage;
+
+    // Elements of that size from the current place to the end of the area.
+    std::size_t Left(int elementSize) const;
 
     int Take(void* elements, int elementSize, int count);
     const unsigned char* TakeWhole(std::size_t) { return nullptr; }
@@ -20,7 +23,13 @@ struct StorageBytes {
 // made. Has no file.
 class SteamFileArchive final : public ByteFileArchive<StorageBytes> {
 public:
-    SteamFileArchive(RemoteStorage& storage, bool _hasFloatBits);
+    SteamFileArchive(RemoteStorage& _storage, bool _hasFloatBits);
+
+    using ByteFileArchive::Read;
+    void Read(Label label, char16_t* buffer, int bufferSize) override;
+
+private:
+    RemoteStorage& storage;
 };
 
 } // namespace Vorn

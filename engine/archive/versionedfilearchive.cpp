@@ -27,7 +27,7 @@ void VersionedFileArchive::Open() {
         LogLine(u"%s not found... New Version being created.\n", fileName);
         WriteNewFile();
     }
-    FileArchive* archive = OpenIfThere();
+    FileArchive* archive = OpenIfReadable();
     if (archive == nullptr) {
         LogLine(u"%s failed to open... New Version being created.\n", fileName);
         archive = OpenNewFile();
@@ -51,14 +51,16 @@ void VersionedFileArchive::Open() {
     archives.Close(archive);
 }
 
-// A file that does not open would end the process in the detection of its form.
-FileArchive* VersionedFileArchive::OpenIfThere() {
-    return FileSystem::Exists(fileName.View()) ? archives.OpenForRead(fileName.View(), false) : nullptr;
+// A file that the platform does not open would end the process in the detection of its form.
+FileArchive* VersionedFileArchive::OpenIfReadable() {
+    NativeFile probe;
+    const bool isReadable = probe.Open(fileName.View(), FileAccess::Read) && !probe.IsDirectory();
+    return isReadable ? archives.OpenForRead(fileName.View(), false) : nullptr;
 }
 
 FileArchive* VersionedFileArchive::OpenNewFile() {
     WriteNewFile();
-    return OpenIfThere();
+    return OpenIfReadable();
 }
 
 void VersionedFileArchive::WriteNewFile() {

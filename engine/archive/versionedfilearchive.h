@@ -8,6 +8,7 @@ namespace Vorn {
 // file's content. Open brings the file up to date and reads it.
 class VersionedFileArchive {
 public:
+    // The name holds at most 255 units; the type is Text or Binary.
     VersionedFileArchive(FileArchiveSystem& _archives, std::u16string_view _fileName, FileArchiveType _archiveType,
                          std::uint32_t _versionNumber);
     VersionedFileArchive(const VersionedFileArchive&) = delete;
@@ -20,11 +21,12 @@ public:
     virtual void Write(Archive& archive) const = 0;
 
     // Reads the file. One that is missing, that is no archive or that has another version is written anew first, with
-    // what could be taken over from the old one; a log line tells of it.
+    // what could be taken over from the old one; a log line tells of it. Where even a new file does not open, nothing
+    // is read.
     void Open();
 
 private:
-    FileArchive* OpenIfThere();
+    FileArchive* OpenIfReadable();
     FileArchive* OpenNewFile();
     void WriteNewFile();
 

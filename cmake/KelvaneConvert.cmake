@@ -1,0 +1,60 @@
+#[[
+kelvane_convert(TYPE <type> FILES <file>... OUTPUT_DIRECTORY <directory> [FORMAT txt|bin] [TARGET <name>])
+
+Converts each file into one of the same name in the output directory, as a part of `all`. Every file is a rule of its
+own with that one output, which is made again when the file or the converter changes, and a build tool runs as many of
+them at once as it likes. Files and directory are relative to the current source and binary directory. FORMAT is bin by
+default. TARGET names the target that makes all outputs, for others to depend on.
+
+Reports of the converter appear in the output of the build. They do not fail it, and neither does a conversion that
+writes nothing; only one that ends abnormally does.
+
+KELVANE_EXECUTABLE is the converter to run. Set it in a cross build, where the installed one is not for this machine.
+]]
+set(KELVANE_EXECUTABLE "" CACHE FILEPATH "Converter to run in place of the installed one")
+
+function(kelvane_convert)
+  cmake_parse_arguments(PARSE_ARGV 0 convert "" "TYPE;OUTPUT_DIRECTORY;FORMAT;TARGET" "FILES")
+  if(convert_UNPARSED_ARGUMENTS OR NOT convert_OUTPUT_DIRECTORY)
+    message(FATAL_ERROR "kelvane_convert: unknown arguments '${convert_UNPARSED_ARGUMENTS}' or no OUTPUT_DIRECTORY")
+  endif()
+  if(NOT convert_TYPE MATCHES "^(mesh|MESH|particle|brushes|entity|saveGame)$")
+    message(FATAL_ERROR "kelvane_convert: TYPE is '${convert_TYPE}'")
+  endif()
+  if(NOT convert_FORMAT)
+    set(convert_FORMAT bin)
+  elseif(NOT convert_FORMAT MATCHES "^(txt|bin)$")
+    message(FATAL_ERROR "kelvane_convert: FORMAT is '${convert_FORMAT}'")
+  endif()
+
+  set(executable "${KELVANE_EXECUTABLE}")
+  if(NOT executable)
+    set(executable kelvane::kelvane)
+  endif()
+  get_filename_component(directory "${convert_OUTPUT_DIRECTORY}" ABSOLUTE BASE_DIR "${CMAKE_CURRENT_BINARY_DIR}")
+  file(MAKE_DIRECTORY "${directory}")
+  set(outputs)
+  foreach(file IN LISTS convert_FILES)
+    get_filename_component(source "${file}" ABSOLUTE)
+    get_filename_component(name "${file}" NAME)
+    set(output "${directory}/${name}")
+    if(output IN_LIST outputs OR output STREQUAL source)
+      message(FATAL_ERROR "kelvane_convert: '${file}' would overwrite '${output}'")
+    endif()
+    add_custom_command(
+      OUTPUT "${output}"
+      COMMAND "${executable}" ${convert_TYPE} "${source}" "${output}" ${convert_FORMAT}
+      DEPENDS "${source}" "${executable}"
+      COMMENT "Converting ${name}"
+      VERBATIM)
+    list(APPEND outputs "${output}")
+  endforeach()
+
+  if(NOT convert_TARGET)
+    get_property(count GLOBAL PROPERTY KELVANE_CONVERT_COUNT)
+    math(EXPR count "${count} + 1")
+    set_property(GLOBAL PROPERTY KELVANE_CONVERT_COUNT ${count})
+    set(convert_TARGET kelvane_convert_${count})
+  endif()
+  add_custom_target(${convert_TARGET} ALL DEPENDS ${outputs})
+endfunction()

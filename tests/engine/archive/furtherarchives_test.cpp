@@ -1,0 +1,289 @@
+#include "engine/archive/archiveversion.h"
+#include "engine/archive/bitstreamarchive.h"
+#include "engine/archive/cachearchive.h"
+#include "engine/archive/remotestorage.h"
+#include "engine/window/brushset.h"
+#include "gs/entity/entitysystem.h"
+#include "gs/entity/entitytypes.h"
+#include "gs/render/particle/particlesimulationdefinition.h"
+#include "tests/support/enginetest.h"
+
+#include <functional>
+
+namespace Vorn {
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::literals;
+
+const std::string kTextHeader = "\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\n";
+constexpr std::size_t kBinaryHeaderSize = 9;
+
+// The content of a file of any kind, by the folder of the samples that it comes from.
+class Content final : public Record {
+public:
+    Content(EntitySystem& _entities, std::string _kind) : kind(std::move(_kind)), entities(_entities) {}
+
+    void Fields(FieldIo& io) override {
+        if (kind == "brushes") {
+            brushes.Fields(io);
+        } else if (kind == "mesh") {
+            io.Record(u"MeshData", mesh);
+        } else if (kind == "particle") {
+            io.Record(ParticleSimulationDefinition::kLabel, particle);
+        } else {
+            auto type = static_cast<std::int32_t>(entity != nullptr ? entity->GetEntityType() : EntityType::Invalid);
+            io.EnumNumber(u"entityType", type, kEntityTypeTable);
+            if (io.Reading()) {
+                entity = entities.CreateEntityDef(static_cast<EntityType>(type), u"name");
+            }
+            entity->Fields(io);
+        }
+    }
+
+    const std::string kind;
+
+private:
+    BrushSet brushes{u""};
+    Mesh::Data mesh;
+    ParticleSimulationDefinition particle;
+    EntitySystem& entities;
+    std::unique_ptr<EntityDef> entity;
+};
+
+class FurtherArchivesTest : public FileTest {
+protected:
+    FileArchiveSystem& Archives() { return core->fileArchiveSystem; }
+
+    std::string Written(FileArchiveType form, const std::function<void(Archive&)>& write) {
+        FileArchive* archive = Archives().OpenForWrite(NameIn("written"), false, form);
+        write(*archive);
+        Archives().Close(archive);
+        return ReadBytes(folder.Path() / "written").value_or("");
+    }
+
+    std::string Written(FileArchiveType form, const Archivable& content) {
+        return Written(form, [&](Archive& archive) { content.Write(archive); });
+    }
+
+    // The sum of the file that was read.
+    std::uint32_t ReadFile(std::u16string_view name, Archivable& content) {
+        FileArchive* archive = Archives().OpenForRead(name, false);
+        content.Read(*archive);
+        const std::uint32_t checkSum = archive->GetCheckSum();
+        Archives().Close(archive);
+        return checkSum;
+    }
+
+    void Cache(const Archivable& content) {
+        CacheArchive cache(core->fileSystem);
+        EXPECT_TRUE(cache.OpenWriteFile(Put("cache", "")));
+        content.Write(cache);
+        cache.CloseWriteFile();
+    }
+
+    // What the calls in a cache file of these bytes write in text form, its header left out.
+    std::string Replayed(std::string_view bytes) {
+        const std::u16string name = Put("cache", bytes);
+        return Written(FileArchiveType::Text,
+                       [&](Archive& archive) { CacheArchive(core->fileSystem).Replay(name, archive); })
+            .substr(kTextHeader.size());
+    }
+
+    // Calls `test` with a sample's content, with a fresh one of its kind, and with its text.
+    template <class Test>
+    void ForEachSample(Test test) {
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(KELVANE_SAMPLES)) {
+            if (entry.is_regular_file()) {
+                SCOPED_TRACE(entry.path().filename());
+                const std::string kind = entry.path().parent_path().filename();
+                Content content(entities, kind);
+                ReadFile(NameOf(entry.path()), content);
+                Content back(entities, kind);
+                test(content, back, ReadBytes(entry.path()).value_or(""));
+            }
+        }
+    }
+
+    EntitySystem entities{core->fileArchiveSystem};
+};
+
+// An archive without a header is told the version of what it holds.
+TEST_F(FurtherArchivesTest, SamplesThroughBitStreams) {
+    ForEachSample([&](const Content& content, Content& back, const std::string& text) {
+        BitStreamArchive written;
+        content.Write(written);
+        BitStreamArchive read(written.GetStream());
+        read.SetVersion(kArchiveVersion);
+        back.Read(read);
+        EXPECT_EQ(Written(FileArchiveType::Text, back), text);
+    });
+}
+
+TEST_F(FurtherArchivesTest, SamplesThroughRemoteStorage) {
+    ForEachSample([&](const Content& content, Content& back, const std::string& text) {
+        MemoryStorage storage;
+        Archives().SetRemoteStorage(&storage);
+        FileArchive* archive = Archives().OpenForWrite(u"", false, FileArchiveType::Steam);
+        content.Write(*archive);
+        const std::string binary = Written(FileArchiveType::Binary, content);
+        Content fromFile(entities, content.kind);
+        EXPECT_EQ(std::string(storage.GetArea(), storage.GetArea() + storage.GetPlace()),
+                  binary.substr(kBinaryHeaderSize));
+        storage.Rewind();
+        archive->SetVersion(kArchiveVersion);
+        back.Read(*archive);
+        EXPECT_EQ(archive->GetCheckSum() + kArchiveVersion, ReadFile(NameIn("written"), fromFile));
+        EXPECT_EQ(Written(FileArchiveType::Text, back), text);
+        Archives().Destroy(archive);
+        Archives().SetRemoteStorage(nullptr);
+    });
+}
+
+TEST_F(FurtherArchivesTest, SamplesThroughCaches) {
+    ForEachSample([&](const Content& content, Content&, const std::string& text) {
+        Cache(content);
+        const auto replay = [&](Archive& archive) {
+            EXPECT_TRUE(CacheArchive(core->fileSystem).Replay(NameIn("cache"), archive));
+        };
+        EXPECT_EQ(Written(FileArchiveType::Text, replay), text);
+        const std::string direct = Written(FileArchiveType::Binary, content);
+        EXPECT_EQ(Written(FileArchiveType::Binary, replay), direct);
+    });
+}
+
+// A record "r" with the Bool "b" of byte 2 and a text without a label.
+constexpr std::string_view kCachedRecord = "\0\0\0\0\1\0\0\0r\0\0\0"
+                                           "\6\0\0\0\1\0\0\0b\0\0\0\2"
+                                           "\10\0\0\0\0\0\0\0\0\0\2\0\0\0h\0i\0\0\0"
+                                           "\1\0\0\0"sv;
+
+TEST_F(FurtherArchivesTest, CacheEntries) {
+    struct Cached : Record {
+        void Fields(FieldIo& io) override { io.Record(u"r", inner); }
+
+        struct Inner : Record {
+            void Fields(FieldIo& io) override {
+                io.Bool(u"b", boolean);
+                io.String(u"", text);
+            }
+
+            Bool boolean = Bool::FromByte(2);
+            FixedString<9> text{u"hi"};
+        };
+        Inner inner;
+    };
+    Cache(Cached());
+    EXPECT_EQ(ReadBytes(folder.Path() / "cache"), kCachedRecord);
+    EXPECT_EQ(Replayed(kCachedRecord), "r\r\n\tb TRUE\r\n\t \"hi\"\r\n");
+}
+
+TEST_F(FurtherArchivesTest, CachesReadNothing) {
+    CacheArchive cache(core->fileSystem);
+    Content content(entities, "brushes");
+    float real = 1.0f;
+    std::uint32_t number = 2;
+    cache.Read(u"", real);
+    EXPECT_EQ(TakeReports(), Reports());
+    cache.Read(u"", number);
+    cache.Read(u"", number, 3);
+    cache.Read(u"", content);
+    cache.Read(u"", content, 193);
+    EXPECT_EQ(TakeReports(), Reports(4, Check("false")));
+    EXPECT_EQ(real, 1.0f);
+    EXPECT_EQ(number, 2u);
+}
+
+TEST_F(FurtherArchivesTest, CacheFiles) {
+    {
+        CacheArchive cache(core->fileSystem);
+        cache.Write(u"dropped", std::int32_t{1});
+        EXPECT_TRUE(cache.OpenWriteFile(NameIn("new")));
+        EXPECT_EQ(TakeReports(), Reports{Check("bResult == TRUE")});
+        fs::permissions(fs::path(NameIn("new")), fs::perms::owner_read);
+        EXPECT_TRUE(cache.OpenWriteFile(NameIn("new")));
+    }
+    EXPECT_EQ(TakeReports(), Reports{Check("writeFile == NULL")});
+    EXPECT_EQ(core->fileSystem.OpenCount(), 0);
+    EXPECT_EQ(ReadBytes(folder.Path() / "new"), "");
+    BitStreamArchive target;
+    EXPECT_FALSE(CacheArchive(core->fileSystem).Replay(NameIn("missing"), target));
+    EXPECT_EQ(TakeReports(), Reports{"Failed to Open File: '" + Utf8(NameIn("missing")) + "'\n"});
+}
+
+TEST_F(FurtherArchivesTest, DamagedCaches) {
+    const std::string record(kCachedRecord);
+    const std::string unknownTag("\21\0\0\0", 4);
+    EXPECT_EQ(Replayed(unknownTag + record), "");
+    EXPECT_EQ(Replayed(record.substr(0, 12) + unknownTag + record), "r\r\n");
+    EXPECT_EQ(Replayed(record.substr(0, 14)), "r\r\n");
+    EXPECT_EQ(Replayed(record.substr(0, 41)), "r\r\n\tb TRUE\r\n\t \"h\"\r\n");
+    std::string deep;
+    for (int i = 0; i < 5000; ++i) {
+        deep += record.substr(0, 12);
+    }
+    EXPECT_LT(Replayed(deep).size(), 40000u);
+    for (std::size_t size = 0; size < record.size(); ++size) {
+        Replayed(record.substr(0, size));
+    }
+    TakeReports();
+}
+
+TEST_F(FurtherArchivesTest, CachedTextsOfAnyLength) {
+    const std::u16string text(5000, u'x');
+    CacheArchive cache(core->fileSystem);
+    cache.OpenWriteFile(Put("cache", ""));
+    cache.Write(std::u16string_view(text), text.c_str(), 5001);
+    cache.CloseWriteFile();
+    const auto replay = [&](Archive& archive) { CacheArchive(core->fileSystem).Replay(NameIn("cache"), archive); };
+    EXPECT_EQ(Written(FileArchiveType::Binary, replay).size(), kBinaryHeaderSize + 4 + 10000);
+}
+
+TEST_F(FurtherArchivesTest, TheEndOfTheRemoteStorage) {
+    MemoryStorage storage;
+    Archives().SetRemoteStorage(&storage);
+    FileArchive* archive = Archives().OpenForWrite(u"", false, FileArchiveType::Steam);
+    const auto goBackFromEnd = [&](std::size_t bytes) {
+        storage.Rewind();
+        storage.MovePlace(RemoteStorage::kAreaSize - bytes);
+    };
+    const auto placeFromEnd = [&] { return RemoteStorage::kAreaSize - storage.GetPlace(); };
+
+    goBackFromEnd(10);
+    archive->Write(u"", Quad{1.0f, 2.0f, 3.0f, 4.0f});
+    EXPECT_EQ(TakeReports(), Reports(2, Check("false")));
+    EXPECT_EQ(placeFromEnd(), 2u);
+    goBackFromEnd(10);
+    Quad quad{9.0f, 9.0f, 9.0f, 9.0f};
+    archive->Read(u"", quad);
+    EXPECT_EQ(TakeReports(), Reports(2, Check("false")));
+    EXPECT_EQ(quad.y, 2.0f);
+    EXPECT_EQ(quad.z, 9.0f);
+    EXPECT_EQ(placeFromEnd(), 2u);
+
+    goBackFromEnd(10);
+    archive->Write(u"", u"four", 9);
+    EXPECT_EQ(TakeReports(), Reports{Check("false")});
+    EXPECT_EQ(placeFromEnd(), 6u);
+    goBackFromEnd(10);
+    FixedString<4> text(u"old");
+    archive->Read(u"", text.Buffer().m_Buffer, 4);
+    EXPECT_EQ(TakeReports(), (Reports{Check("numChars < bufferSize"), Check("false")}));
+    EXPECT_EQ(text.View(), u"old");
+    EXPECT_EQ(placeFromEnd(), 6u);
+
+    goBackFromEnd(10);
+    archive->Write(u"", u"all", 9);
+    goBackFromEnd(10);
+    archive->Read(u"", text.Buffer().m_Buffer, 4);
+    EXPECT_EQ(text.View(), u"all");
+    storage.MovePlace(100);
+    archive->Write(u"", std::int64_t{1});
+    EXPECT_EQ(TakeReports(), Reports{Check("false")});
+    Archives().Destroy(archive);
+}
+
+} // namespace
+
+} // namespace Vorn

@@ -238,7 +238,7 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     constexpr std::string_view kParts = "0123456789.-+eExfTAL[],\" \t\r\n";
     for (int i = 0; i < 3000 && !HasFailure(); ++i) {
         std::string text = std::string(kTextHeader) + std::string(kPlainText);
-        text.replace(text.find("\xC3\xB6"), 2, "o");
+        text.replace(text.find("\xC3\xB6"), 2, 1, 'o');
         for (auto faults = random() % 4; faults > 0; --faults) {
             const std::size_t at = 4 + random() % (text.size() - 4);
             text.replace(at, random() % 2, random() % 3, kParts[random() % kParts.size()]);

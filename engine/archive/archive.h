@@ -26,7 +26,7 @@ public:
 
     // A literal, whose length costs nothing at run time.
     template <std::size_t N>
-    consteval Label(const char16_t (&text)[N]) : std::u16string_view(text, N - 1) {}
+    constexpr Label(const char16_t (&text)[N]) : std::u16string_view(text, N - 1) {}
 };
 
 // The one interface between records and files. A record calls it for every field, in a fixed order; the same calls read

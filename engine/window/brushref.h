@@ -18,8 +18,8 @@ protected:
 
 private:
     bool isLoadOnDemand;
-    std::int32_t resolvedIndex = -1;
-    Brush* resolvedBrush = nullptr;
+    [[maybe_unused]] std::int32_t resolvedIndex = -1;
+    [[maybe_unused]] Brush* resolvedBrush = nullptr;
 };
 
 // A brush whose image the game loads when it is first shown.

@@ -11,10 +11,9 @@ set_target_properties(vorn PROPERTIES LINKER_LANGUAGE CXX)
 target_compile_features(vorn INTERFACE cxx_std_20)
 target_include_directories(vorn INTERFACE $<INSTALL_INTERFACE:${includeDirectory}>)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_INTERPROCEDURAL_OPTIMIZATION)
-  # Usable without link-time optimisation too. Compiled by itself a file seems to load whole blocks from literals that
-  # are shorter, in branches that those never take.
-  target_compile_options(engine PRIVATE -ffat-lto-objects -Wno-array-bounds)
-  target_compile_options(gs PRIVATE -ffat-lto-objects -Wno-array-bounds)
+  # Usable without link-time optimisation too.
+  target_compile_options(engine PRIVATE -ffat-lto-objects)
+  target_compile_options(gs PRIVATE -ffat-lto-objects)
 endif()
 
 install(TARGETS kelvane vorn EXPORT kelvane)

@@ -18,8 +18,8 @@ public:
 
     const std::string& SourcePath() const { return source; }
 
-    // Writes both forms of a source, and of some the binary form twice more: one pass may still normalise, but the next
-    // must change nothing. False if it did.
+    // Writes both forms of a source, and of some without angles the binary form twice more: one pass may still
+    // normalise, but the next must change nothing. False if it did.
     bool Convert(std::string_view bytes);
 
 private:

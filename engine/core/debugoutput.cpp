@@ -35,8 +35,8 @@ void WriteDebugOutput(const char16_t* text) {
     [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, bytes, static_cast<std::size_t>(end - bytes));
 }
 
-// A tracer shows in the process status as a process number other than 0. The status stays open, since a damaged file may
-// fail a million checks, and each asks anew.
+// A tracer shows in the process status as a process number other than 0. The status stays open, since a damaged file
+// may fail a million checks, and each asks anew.
 bool IsDebuggerAttached() {
     static const int status = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
     char text[2048];

@@ -85,12 +85,8 @@ struct ContentType {
 };
 
 constexpr ContentType kContentTypes[] = {
-    {u"mesh", ConvertMesh},
-    {u"MESH", ConvertMesh},
-    {u"brushes", ConvertBrushes},
-    {u"entity", ConvertEntity},
-    {u"particle", ConvertParticle},
-    {u"saveGame", ConvertSaveGame},
+    {u"mesh", ConvertMesh},     {u"MESH", ConvertMesh},         {u"brushes", ConvertBrushes},
+    {u"entity", ConvertEntity}, {u"particle", ConvertParticle}, {u"saveGame", ConvertSaveGame},
 };
 
 void PrintUsage(std::FILE* output) {

@@ -1,12 +1,10 @@
-# What every target of the project is compiled with.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # The installed library is for programs without link-time optimisation too, and the names of the sections that carry
-  # it are random unless they are made from a seed.
-  set(CMAKE_CXX_COMPILE_OPTIONS_IPO -flto=auto -ffat-lto-objects)
+  # Objects for link-time optimisation name their sections at random unless they have a seed.
   string(REPLACE "-c <SOURCE>" "-frandom-seed=<OBJECT> -c <SOURCE>" CMAKE_CXX_COMPILE_OBJECT
     "${CMAKE_CXX_COMPILE_OBJECT}")
 endif()
 
+# What every target of the project is compiled with.
 add_library(kelvane_flags INTERFACE)
 target_include_directories(kelvane_flags INTERFACE ${PROJECT_SOURCE_DIR})
 

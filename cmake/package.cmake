@@ -10,6 +10,11 @@ add_library(vorn STATIC $<TARGET_OBJECTS:engine> $<TARGET_OBJECTS:gs>)
 set_target_properties(vorn PROPERTIES LINKER_LANGUAGE CXX)
 target_compile_features(vorn INTERFACE cxx_std_20)
 target_include_directories(vorn INTERFACE $<INSTALL_INTERFACE:${includeDirectory}>)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_INTERPROCEDURAL_OPTIMIZATION)
+  # Usable without link-time optimisation too.
+  target_compile_options(engine PRIVATE -ffat-lto-objects)
+  target_compile_options(gs PRIVATE -ffat-lto-objects)
+endif()
 
 install(TARGETS kelvane vorn EXPORT kelvane)
 install(EXPORT kelvane FILE kelvaneTargets.cmake NAMESPACE kelvane:: DESTINATION ${packageDirectory})

@@ -30,8 +30,7 @@ char* PutUint64(char* out, std::uint64_t value) {
 }
 
 char* PutNotFinite(char* out, double value) {
-    std::memcpy(out, std::isnan(value) ? "nan" : "inf", 3);
-    return out + 3;
+    return std::copy_n(std::isnan(value) ? "nan" : "inf", 3, out);
 }
 
 } // namespace

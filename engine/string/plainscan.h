@@ -21,13 +21,11 @@ public:
 
     const char* Cursor() const { return cursor; }
 
-    // Up to seven.
+    // Up to seven. Counted by branches, which are foreseen, where a computed count would hold up what stands behind.
     VORN_ALWAYS_INLINE PlainScanner& Tabs() {
-        const std::uint64_t other = WordAt(cursor) ^ kEachByte * '\t';
-        if (other == 0) [[unlikely]] {
-            return Fail();
+        for (const char* limit = cursor + 7; *cursor == '\t' && cursor != limit;) {
+            ++cursor;
         }
-        cursor += BytesBelow(other);
         return *this;
     }
 
@@ -51,14 +49,16 @@ public:
         return *this;
     }
 
-    // Up to seven digits.
+    // Up to seven digits. More stay where they are and end the next step, since none begins with a digit.
     VORN_ALWAYS_INLINE PlainScanner& Int(std::int32_t& value) {
-        const bool negative = *cursor == '-';
-        const char* start = cursor + (negative ? 1 : 0);
+        const char* start = cursor;
+        const bool negative = *start == '-';
+        if (negative) [[unlikely]] {
+            ++start;
+        }
         const std::uint64_t digits = WordAt(start) ^ kEachByte * '0';
-        const std::uint64_t others = BeyondNine(digits);
-        const std::size_t count = BytesBelow(others);
-        if (others == 0 || count == 0) [[unlikely]] {
+        const std::size_t count = BytesBelow(BeyondNine(digits) | kLastByte);
+        if (count == 0) [[unlikely]] {
             return Fail();
         }
         cursor = start + count;
@@ -67,33 +67,23 @@ public:
         return *this;
     }
 
-    // Up to nine digits, a point and six more. Their quotient is exact in 64 bits but for one rounding; the second one
-    // is safe unless it starts from the middle between two floats.
+    // Up to nine digits, a point and six more.
     VORN_ALWAYS_INLINE PlainScanner& Float(float& value) {
         const bool negative = *cursor == '-';
         const char* start = cursor + (negative ? 1 : 0);
-        std::uint64_t number = DigitAt(start);
-        if (number >= 10) [[unlikely]] {
+        float magnitude = 0.0f;
+        const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
+        if (AreDigitPointAndSix(digits)) [[likely]] {
+            // With the digit on the place of the point these are millionths, which a float holds: their quotient is
+            // rounded once.
+            const std::uint64_t millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
+            magnitude = static_cast<float>(static_cast<std::int32_t>(millionths)) / 1e6f;
+            cursor = start + 8;
+        } else if (!LongFloat(start, magnitude)) [[unlikely]] {
             return Fail();
         }
-        const char* point = start + 1;
-        const char* limit = start + 9;
-        for (std::uint32_t digit = DigitAt(point); digit < 10 && point != limit; digit = DigitAt(point)) {
-            number = number * 10 + digit;
-            ++point;
-        }
-        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
-        if (((digits | (digits + kBeyondNine)) & kWrongBits) != 0) [[unlikely]] {
-            return Fail();
-        }
-        const std::uint64_t millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
-        const double quotient = static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6;
-        if ((std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) == 0x10000000) [[unlikely]] {
-            return Fail();
-        }
-        cursor = point + 7;
-        const auto magnitude = static_cast<float>(quotient);
-        value = negative ? -magnitude : magnitude;
+        // No branch, since signs can hardly be predicted.
+        value = std::bit_cast<float>(std::bit_cast<std::uint32_t>(magnitude) | std::uint32_t{negative} << 31);
         return *this;
     }
 
@@ -144,6 +134,9 @@ private:
     static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
     static constexpr std::uint64_t kEachByte = 0x0101010101010101;
 
+    // Any bit of it bounds what BytesBelow finds.
+    static constexpr std::uint64_t kLastByte = std::uint64_t{0x80} << 56;
+
     // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
     // is added takes a digit beyond 9 to its top bit; of the point every bit is wrong.
     static constexpr std::uint64_t kPointByte = 0xFF00;
@@ -178,11 +171,39 @@ private:
     }
 
     // How many bytes there are below the lowest one that has a bit.
-    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
+    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<unsigned>(std::countr_zero(bits)) / 8; }
 
     // The top bit of each byte beyond 9, up to the first one and with it; behind a byte that is not, anything.
     VORN_ALWAYS_INLINE static std::uint64_t BeyondNine(std::uint64_t digits) {
         return (digits | (digits + kEachByte * (0x7F - 9))) & kEachByte * 0x80;
+    }
+
+    static bool AreDigitPointAndSix(std::uint64_t digits) {
+        return ((digits | (digits + kBeyondNine)) & kWrongBits) == 0;
+    }
+
+    // More digits ahead of the point. The quotient is exact in 64 bits but for one rounding; the second one is safe
+    // unless it starts from the middle between two floats.
+    VORN_ALWAYS_INLINE bool LongFloat(const char* start, float& magnitude) {
+        std::uint64_t number = 0;
+        const char* point = start;
+        const char* limit = start + 9;
+        for (std::uint32_t digit = DigitAt(point); digit < 10 && point != limit; digit = DigitAt(point)) {
+            number = number * 10 + digit;
+            ++point;
+        }
+        if (point == start) [[unlikely]] {
+            return false;
+        }
+        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
+        if (!AreDigitPointAndSix(digits)) [[unlikely]] {
+            return false;
+        }
+        const std::uint64_t millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
+        const double quotient = static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6;
+        magnitude = static_cast<float>(quotient);
+        cursor = point + 7;
+        return (std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) != 0x10000000;
     }
 
     // The number that the eight bytes are the digits of: summed by pairs, then by fours, each sum on top of its lanes.

@@ -32,8 +32,6 @@ public:
 
     // A vertex for the moment in which it is read or written.
     struct ArchivableVertex final : Record, Vertex {
-        explicit ArchivableVertex(const Vertex& vertex) : Vertex(vertex) {}
-
         void Fields(FieldIo& io) override;
     };
 
@@ -47,8 +45,6 @@ public:
 
     // A triangle for the moment in which it is read or written.
     struct ArchivableTriangle final : Record, Triangle {
-        explicit ArchivableTriangle(const Triangle& triangle) : Triangle(triangle) {}
-
         void Fields(FieldIo& io) override;
     };
 

@@ -25,12 +25,19 @@ void SizedArray(FieldIo& io, Label countLabel, DynamicArray<T>& array, Entry ent
     }
 }
 
-// Takes a plain element through the record that lists its fields.
+// Takes a plain element through the record that lists its fields. What is read starts from the record's defaults, since
+// to look at the untouched element would cost its page a first touch of its own.
 template <class Archived, class T>
 void PlainRecord(FieldIo& io, Label label, T& element) {
-    Archived archived(element);
+    Archived archived;
+    T& fields = archived;
+    if (io.Writing()) {
+        fields = element;
+    }
     io.Record(label, archived);
-    element = archived;
+    if (io.Reading()) {
+        element = fields;
+    }
 }
 
 float SquaredLength(const Vector3& v) {

@@ -71,18 +71,18 @@ public:
     VORN_ALWAYS_INLINE PlainScanner& Float(float& value) {
         const bool negative = *cursor == '-';
         const char* start = cursor + (negative ? 1 : 0);
-        float magnitude = 0.0f;
+        std::uint64_t millionths = 0;
         const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
         if (AreDigitPointAndSix(digits)) [[likely]] {
-            // With the digit on the place of the point these are millionths, which a float holds: their quotient is
-            // rounded once.
-            const std::uint64_t millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
-            magnitude = static_cast<float>(static_cast<std::int32_t>(millionths)) / 1e6f;
+            // The digit goes to the place of the point.
+            millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
             cursor = start + 8;
-        } else if (!LongFloat(start, magnitude)) [[unlikely]] {
+        } else if (!LongMillionths(start, millionths)) [[unlikely]] {
             return Fail();
         }
-        // No branch, since signs can hardly be predicted.
+        // To round to 64 bits first does no harm: six decimals are either the middle between two floats or farther from
+        // it than that rounding goes. The sign needs no branch, which could hardly be foreseen.
+        const auto magnitude = static_cast<float>(static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6);
         value = std::bit_cast<float>(std::bit_cast<std::uint32_t>(magnitude) | std::uint32_t{negative} << 31);
         return *this;
     }
@@ -134,7 +134,7 @@ private:
     static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
     static constexpr std::uint64_t kEachByte = 0x0101010101010101;
 
-    // Any bit of it bounds what BytesBelow finds.
+    // Beside other bits it makes BytesBelow find seven bytes at most.
     static constexpr std::uint64_t kLastByte = std::uint64_t{0x80} << 56;
 
     // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
@@ -182,9 +182,8 @@ private:
         return ((digits | (digits + kBeyondNine)) & kWrongBits) == 0;
     }
 
-    // More digits ahead of the point. The quotient is exact in 64 bits but for one rounding; the second one is safe
-    // unless it starts from the middle between two floats.
-    VORN_ALWAYS_INLINE bool LongFloat(const char* start, float& magnitude) {
+    // Float with more digits ahead of the point.
+    VORN_ALWAYS_INLINE bool LongMillionths(const char* start, std::uint64_t& millionths) {
         std::uint64_t number = 0;
         const char* point = start;
         const char* limit = start + 9;
@@ -196,14 +195,9 @@ private:
             return false;
         }
         const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
-        if (!AreDigitPointAndSix(digits)) [[unlikely]] {
-            return false;
-        }
-        const std::uint64_t millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
-        const double quotient = static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6;
-        magnitude = static_cast<float>(quotient);
+        millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
         cursor = point + 7;
-        return (std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) != 0x10000000;
+        return AreDigitPointAndSix(digits);
     }
 
     // The number that the eight bytes are the digits of: summed by pairs, then by fours, each sum on top of its lanes.

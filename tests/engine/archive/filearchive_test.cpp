@@ -3,7 +3,10 @@
 #include "tests/support/archivetest.h"
 
 #include <bit>
+#include <charconv>
 #include <random>
+#include <string>
+#include <vector>
 
 namespace Vorn {
 
@@ -257,6 +260,52 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
                     Written(FileArchiveType::Binary, FieldsOf(fromWide)))
             << text;
     }
+}
+
+// The quick road has an arithmetic of its own; the library tells what it must come to.
+TEST_F(FileArchiveTest, NumbersOfAllLengths) {
+    const auto seed = std::random_device()();
+    SCOPED_TRACE(testing::Message() << "seed " << seed);
+    std::mt19937 random(seed);
+    const auto digits = [&](std::size_t count) {
+        std::string text;
+        while (text.size() < count) {
+            text += static_cast<char>('0' + random() % 10);
+        }
+        return text;
+    };
+    const auto sign = [&] { return std::string(random() % 2, '-'); };
+    // The first ones stand in the middle between two floats.
+    std::vector<std::string> floats = {"16777217.000000", "-16777219.000000", "8388608.500000", "268435472.000000",
+                                       "0.000000",        "-0.000000",        "9.999999",       "10.000000"};
+    std::vector<std::string> ints = {"2147483647", "-2147483648", "0000000", "-0"};
+    constexpr std::size_t kCount = 4000;
+    while (floats.size() < kCount) {
+        floats.push_back(sign() + digits(1 + random() % 11) + "." + digits(6));
+    }
+    while (ints.size() < kCount) {
+        ints.push_back(sign() + digits(1 + random() % 9));
+    }
+    std::string text(kTextHeader);
+    for (std::size_t i = 0; i < kCount; ++i) {
+        text += std::string(random() % 10, '\t') + "float " + floats[i] + "\r\n";
+        text += std::string(random() % 10, '\t') + "int " + ints[i] + "\n";
+    }
+    Read(text, [&](FieldIo& io) {
+        for (std::size_t i = 0; i < kCount; ++i) {
+            float single = 0.0f;
+            std::int32_t integer = 0;
+            std::from_chars(floats[i].data(), floats[i].data() + floats[i].size(), single);
+            std::from_chars(ints[i].data(), ints[i].data() + ints[i].size(), integer);
+            float readSingle = -1.0f;
+            std::int32_t readInteger = -1;
+            io.Float(u"float", readSingle);
+            io.Int(u"int", readInteger);
+            EXPECT_EQ(std::bit_cast<std::uint32_t>(readSingle), std::bit_cast<std::uint32_t>(single)) << floats[i];
+            EXPECT_EQ(readInteger, integer) << ints[i];
+        }
+    });
+    EXPECT_EQ(TakeReports(), Reports());
 }
 
 TEST_F(FileArchiveTest, LabelsAndLines) {

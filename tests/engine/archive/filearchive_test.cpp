@@ -1,5 +1,5 @@
 #include "engine/archive/checksum.h"
-#include "engine/archive/record.h"
+#include "tests/support/allkinds.h"
 #include "tests/support/archivetest.h"
 
 #include <bit>
@@ -12,71 +12,14 @@ namespace Vorn {
 
 namespace {
 
-struct Inner : Record {
-    void Fields(FieldIo& io) override { io.Uint(u"count", count); }
-
-    std::uint32_t count = 3000000000;
-};
-
-struct Name : SingleLineArchivable {
-    void Read(Label label, Archive& archive) override { archive.Read(label, text.Buffer().m_Buffer, 20); }
-    void Write(Label label, Archive& archive) const override { archive.Write(label, text.Units(), 20); }
-
-    FixedString<20> text{u"by name"};
-};
-
-// One member of every kind, each with a value that shows what became of it.
-struct AllKinds : Record {
-    void Fields(FieldIo& io) override {
-        io.Color(u"color", color);
-        io.Rectangle(u"rectangle", rectangle);
-        io.Size(u"size", size);
-        io.Point(u"point", point);
-        io.Quad(u"quad", quad);
-        io.Matrix44(u"matrix44", matrix44);
-        io.Matrix33(u"matrix33", matrix33);
-        io.Vector3(u"vector3", vector3);
-        io.String(u"string", string);
-        io.Int64(u"int64", int64);
-        io.Bool(u"bool", boolean);
-        io.Double(u"double", real);
-        io.Float(u"float", single);
-        io.Int(u"int", integer);
-        io.Value(u"value", name);
-        io.Record(u"record", inner);
-    }
-
-    Color color{1.0f, 0.5f, 0.0f, 0.25f};
-    Rectangle rectangle{10, 20, 40, 60};
-    Size size{-1, 2};
-    Point point{3, -2147483647 - 1};
-    Quad quad{0.5f, 1.5f, -2.5f, 1e9f};
-    Matrix44 matrix44;
-    Matrix33 matrix33;
-    Vector3 vector3{1.0f, -2.0f, 0.0000005f};
-    FixedString<20> string{u"a \"b\" %s ö"};
-    std::int64_t int64 = INT64_MIN;
-    Bool boolean = true;
-    double real = 1.0 / 3;
-    float single = 0.1f;
-    std::int32_t integer = -7;
-    Name name;
-    Inner inner;
-};
-
 class FileArchiveTest : public ArchiveTest {
 protected:
-    FileArchiveTest() {
-        all.matrix33.rows[1][2] = 6.25f;
-        all.matrix44.rows[3][0] = -6.25f;
-    }
-
     // The fields of a record, at the top level of the file.
     static Fields FieldsOf(Record& record) {
         return [&record](FieldIo& io) { record.Fields(io); };
     }
 
-    AllKinds all;
+    AllKinds all = AllKinds::Filled();
 };
 
 constexpr std::string_view kPlainText = "color 40ff8000\r\n"
@@ -108,7 +51,6 @@ TEST_F(FileArchiveTest, TextFormOfEveryKind) {
     const std::string written = Written(FileArchiveType::Text, FieldsOf(all));
     EXPECT_EQ(written, kPlainText);
     AllKinds read;
-    read.single = 9.0f;
     Read(std::string(kTextHeader) + written, FieldsOf(read));
     // The string is cut at the first quote inside; all else comes back.
     EXPECT_EQ(read.string.View(), u"a ");
@@ -127,8 +69,6 @@ TEST_F(FileArchiveTest, FloatBitsKeepFloatsExact) {
         EXPECT_NE(written.find(line), std::string::npos) << line << written;
     }
     AllKinds read;
-    read.real = 0;
-    read.vector3 = {};
     Read(std::string(kTextHeader) + written, FieldsOf(read), true);
     EXPECT_EQ(read.real, all.real);
     EXPECT_EQ(read.vector3.z, all.vector3.z);
@@ -215,9 +155,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     const std::string plain = "\r\n" + std::string(kPlainText);
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.kind) + " " + row.value);
-        AllKinds read;
-        read.matrix33 = all.matrix33;
-        read.matrix44 = all.matrix44;
+        AllKinds read = all;
         // All lines stand as written but for the one of the kind.
         const auto replaced = [&](const std::string& value) {
             const std::size_t start = plain.find("\r\n" + std::string(row.kind) + " ") + 3 + std::strlen(row.kind);
@@ -250,8 +188,8 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
         for (const char byte : text) {
             wide += {byte, '\0'};
         }
-        AllKinds fromPlain;
-        AllKinds fromWide;
+        AllKinds fromPlain = all;
+        AllKinds fromWide = all;
         const std::uint32_t plainSum = Read(text, FieldsOf(fromPlain));
         const Reports plainReports = TakeReports();
         EXPECT_EQ(plainSum, Read(wide, FieldsOf(fromWide))) << text;

@@ -6,6 +6,7 @@
 #include "gs/entity/entitysystem.h"
 #include "gs/entity/entitytypes.h"
 #include "gs/render/particle/particlesimulationdefinition.h"
+#include "tests/support/allkinds.h"
 #include "tests/support/enginetest.h"
 
 #include <functional>
@@ -179,20 +180,57 @@ TEST_F(FurtherArchivesTest, CacheEntries) {
     EXPECT_EQ(Replayed(kCachedRecord), "r\r\n\tb TRUE\r\n\t \"hi\"\r\n");
 }
 
+TEST_F(FurtherArchivesTest, EveryKindInCaches) {
+    const AllKinds all = AllKinds::Filled();
+    Cache(all);
+    const std::string bytes = ReadBytes(folder.Path() / "cache").value_or("");
+    const auto number = [&](std::size_t at) {
+        return static_cast<std::size_t>(static_cast<unsigned char>(bytes.at(at)));
+    };
+    // The tags stand for the kinds in this order, but that a value by name is a string and a record has an end.
+    constexpr std::size_t kString = 8;
+    constexpr std::size_t kEnd = 1;
+    const std::size_t tags[] = {16, 15, 14, 13, 12, 11, 10, 9, kString, 7, 6, 5, 4, 3, kString, 0, 2, kEnd};
+    const std::size_t valueSizes[] = {0, 0, 4, 4, 4, 8, 1, 8, 0, 12, 36, 64, 16, 8, 8, 16, 16};
+    std::size_t place = 0;
+    for (const std::size_t tag : tags) {
+        ASSERT_EQ(number(place), tag);
+        place += 4;
+        for (int texts = tag == kEnd ? 0 : tag == kString ? 2 : 1; texts > 0; --texts) {
+            place += 4 + 2 * (number(place) + 1);
+        }
+        place += valueSizes[tag];
+    }
+    EXPECT_EQ(place, bytes.size());
+    for (const FileArchiveType form : {FileArchiveType::Text, FileArchiveType::Binary}) {
+        EXPECT_EQ(
+            Written(form, [&](Archive& archive) { CacheArchive(core->fileSystem).Replay(NameIn("cache"), archive); }),
+            Written(form, all));
+    }
+}
+
+TEST_F(FurtherArchivesTest, EveryKindInBitStreams) {
+    const AllKinds all = AllKinds::Filled();
+    BitStreamArchive archive;
+    all.Write(archive);
+    archive.Rewind();
+    AllKinds read;
+    read.Read(archive);
+    EXPECT_EQ(Written(FileArchiveType::Binary, read), Written(FileArchiveType::Binary, all));
+    EXPECT_EQ(TakeReports(), Reports(4, Check("false")));
+}
+
 TEST_F(FurtherArchivesTest, CachesReadNothing) {
     CacheArchive cache(core->fileSystem);
-    Content content(entities, "brushes");
-    float real = 1.0f;
-    std::uint32_t number = 2;
-    cache.Read(u"", real);
-    EXPECT_EQ(TakeReports(), Reports());
-    cache.Read(u"", number);
-    cache.Read(u"", number, 3);
-    cache.Read(u"", content);
-    cache.Read(u"", content, 193);
-    EXPECT_EQ(TakeReports(), Reports(4, Check("false")));
-    EXPECT_EQ(real, 1.0f);
-    EXPECT_EQ(number, 2u);
+    AllKinds all = AllKinds::Filled();
+    // Only Int, Value and Record are checked.
+    all.Read(cache);
+    EXPECT_EQ(TakeReports(), Reports(3, Check("false")));
+    cache.Read(u"", all.inner.count);
+    cache.Read(u"", all.inner.count, 3);
+    cache.Read(u"", all.inner, 193);
+    EXPECT_EQ(TakeReports(), Reports(3, Check("false")));
+    EXPECT_EQ(Written(FileArchiveType::Binary, all), Written(FileArchiveType::Binary, AllKinds::Filled()));
 }
 
 TEST_F(FurtherArchivesTest, CacheFiles) {

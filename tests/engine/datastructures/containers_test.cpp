@@ -1,6 +1,7 @@
 #include "engine/datastructures/dynamicarray.h"
 #include "engine/datastructures/fixedvector.h"
 #include "engine/datastructures/list.h"
+#include "engine/datastructures/pool.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {
@@ -118,6 +119,23 @@ TEST_F(ContainerTest, ListLinksAndChecksItsNodes) {
     (*end).value = 5;
     EXPECT_EQ(TakeReports(), Reports(3, Check("m_pNode != NULL")));
     EXPECT_EQ(list.Size(), 2);
+}
+
+TEST_F(ContainerTest, UsedUpPoolsTakeFromTheHeap) {
+    const int before = Element::living;
+    Pool<Element, 2> pool;
+    Element* first = pool.Make(1);
+    Element* second = pool.Make(2);
+    EXPECT_EQ(TakeReports(), Reports());
+    Element* third = pool.Make(3);
+    EXPECT_EQ(TakeReports().size(), 1u);
+    EXPECT_EQ(Element::living, before + 3);
+    pool.Destroy(first);
+    EXPECT_EQ(pool.Make(4), first) << "room that came free is used again";
+    for (Element* element : {first, second, third}) {
+        pool.Destroy(element);
+    }
+    EXPECT_EQ(Element::living, before);
 }
 
 TEST_F(ContainerTest, ImpossibleSizesEndTheProcess) {

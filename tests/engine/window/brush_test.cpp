@@ -1,3 +1,4 @@
+#include "engine/window/brushlayout.h"
 #include "engine/window/brushset.h"
 #include "tests/support/archivetest.h"
 
@@ -60,6 +61,15 @@ TEST_F(BrushTest, SetsGiveAllTexturesBack) {
     set.ReleaseTextures();
     EXPECT_EQ(core->textureSystem.GetTextureCount(), 0);
     EXPECT_EQ(set.GetBrushes().Size(), 0);
+}
+
+TEST_F(BrushTest, LayoutsInText) {
+    constexpr std::string_view kText = "textureName \"Pips.dds\"\r\nstartTopLeft [ 4 , 8 ]\r\nwidth 6\r\nheight 7\r\n"
+                                       "rowItemCount 10\r\nhorizontalStride 12\r\nverticalStride 14\r\n";
+    BrushLayout layout;
+    const Fields fields = [&](FieldIo& io) { layout.Fields(io); };
+    Read(std::string(kTextHeader) + std::string(kText), fields);
+    EXPECT_EQ(Written(FileArchiveType::Text, fields), kText);
 }
 
 } // namespace

@@ -128,6 +128,18 @@ TEST_F(DriverTest, NamesOfAnyBytesOpen) {
     EXPECT_TRUE(Run({"brushes", folder.Path().string() + steps + "empty.brushes", "dest"}).EndedAbnormally());
 }
 
+TEST_F(DriverTest, DefinitionsAreNamedAfterTheirFiles) {
+    const std::string text = "TXT\nentityType \"Cosmetic\"\n";
+    const std::string longest(79, 'n');
+    Put(longest + ".entity", text);
+    Put(longest + "n.entity", text);
+    const std::string labels = Run({"entity", longest + ".entity", "dest"}).reports;
+    EXPECT_TRUE(labels.starts_with("Text FileArchive missing Label.")) << labels;
+    EXPECT_TRUE(Get("dest"));
+    ExpectReports({"entity", longest + "n.entity", "none"}, "EntityDefName is too long: " + longest + "n\n");
+    EXPECT_FALSE(Get("none"));
+}
+
 TEST_F(DriverTest, SaveGamesAreStamped) {
     std::string hundred(100, '\0');
     std::generate(hundred.begin(), hundred.end(), [n = 0]() mutable { return static_cast<char>(n++ * 7); });

@@ -72,12 +72,7 @@ public:
         const bool negative = *cursor == '-';
         const char* start = cursor + (negative ? 1 : 0);
         std::uint64_t millionths = 0;
-        const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
-        if (AreDigitPointAndSix(digits)) [[likely]] {
-            // The digit goes to the place of the point.
-            millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
-            cursor = start + 8;
-        } else if (!LongMillionths(start, millionths)) [[unlikely]] {
+        if (!(start[1] == '.' ? ShortMillionths(start, millionths) : LongMillionths(start, millionths))) [[unlikely]] {
             return Fail();
         }
         // To round to 64 bits first does no harm: six decimals are either the middle between two floats or farther from
@@ -182,7 +177,15 @@ private:
         return ((digits | (digits + kBeyondNine)) & kWrongBits) == 0;
     }
 
-    // Float with more digits ahead of the point.
+    // A float with one digit ahead of the point, which goes to the place of the point.
+    VORN_ALWAYS_INLINE bool ShortMillionths(const char* start, std::uint64_t& millionths) {
+        const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
+        millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
+        cursor = start + 8;
+        return AreDigitPointAndSix(digits);
+    }
+
+    // A float with any other number of digits there.
     VORN_ALWAYS_INLINE bool LongMillionths(const char* start, std::uint64_t& millionths) {
         std::uint64_t number = 0;
         const char* point = start;

@@ -15,10 +15,15 @@ public:
     virtual void Write(Archive& archive) const = 0;
 };
 
+// What a text names, where it is the name of something.
+enum class NameKind { None, Entity, Particle, Brush, Mesh, Texture, Sound, StringId };
+
 // A value that stores itself as one entry under the label that its owner passes.
 class SingleLineArchivable {
 public:
     virtual ~SingleLineArchivable() = default;
+
+    virtual NameKind GetNameKind() const { return NameKind::None; }
 
     virtual void Read(Label label, Archive& archive) = 0;
     virtual void Write(Label label, Archive& archive) const = 0;

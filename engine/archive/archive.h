@@ -16,7 +16,9 @@
 namespace Vorn {
 
 class Archivable;
+class FieldObserver;
 class SingleLineArchivable;
+struct FieldContext;
 
 // A field's key. Binary forms ignore it, also a null one.
 class Label : public std::u16string_view {
@@ -87,6 +89,14 @@ public:
     // May be set only once; a second setting fires its check and goes on.
     void SetVersion(std::int32_t _version);
 
+    // What the records read and written through this archive need from outside; null until it is set. Not owned.
+    const FieldContext* GetContext() const { return context; }
+    void SetContext(const FieldContext* _context) { context = _context; }
+
+    // Who follows the fields that are read, or null. Not owned.
+    FieldObserver* GetObserver() const { return observer; }
+    void SetObserver(FieldObserver* _observer) { observer = _observer; }
+
     // True once so many reads found their file at its end that no counted loop should go on: a damaged count must not
     // keep the process busy for hours.
     bool IsExhausted() const { return idleReads > kMaxIdleReads; }
@@ -99,6 +109,8 @@ private:
 
     std::int32_t version = kNoVersion;
     std::int32_t idleReads = 0;
+    const FieldContext* context = nullptr;
+    FieldObserver* observer = nullptr;
 };
 
 } // namespace Vorn

@@ -16,6 +16,9 @@ constexpr float kDegreesPerRadian = 57.295776f;
 
 void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& table) {
     EnumText text;
+    if (observer != nullptr) [[unlikely]] {
+        observer->OnEnum(table);
+    }
     if (reading) {
         String(label, text);
         value = EnumFromText(text.View(), table);
@@ -28,6 +31,9 @@ void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& tabl
 }
 
 void FieldIo::Degrees(Label label, float& radians) {
+    if (observer != nullptr) [[unlikely]] {
+        observer->OnDegrees();
+    }
     if (reading) {
         float degrees = 0.0f;
         archive.Read(label, degrees);
@@ -38,6 +44,12 @@ void FieldIo::Degrees(Label label, float& radians) {
 }
 
 void FieldIo::Block(class Record& block) {
+    if (observer != nullptr) [[unlikely]] {
+        observer->OnBlock(block);
+        block.Fields(*this);
+        observer->OnBlockEnd();
+        return;
+    }
     block.Fields(*this);
 }
 
@@ -47,9 +59,12 @@ void FieldIo::ReportTooMany(Label countLabel, std::int32_t count, std::int32_t a
                 countLabel, count, allowed);
 }
 
-std::int32_t FieldIo::ReadCount(Label label, std::int32_t start) {
+std::int32_t FieldIo::ReadCount(const ListShape& list, std::int32_t start) {
+    if (observer != nullptr) [[unlikely]] {
+        observer->OnList(list);
+    }
     auto count = static_cast<std::uint32_t>(start);
-    archive.Read(label, count);
+    archive.Read(list.countLabel, count);
     return static_cast<std::int32_t>(count);
 }
 

@@ -2,6 +2,8 @@
 
 #include "engine/archive/archivable.h"
 #include "engine/archive/enumtable.h"
+#include "engine/archive/fieldcontext.h"
+#include "engine/archive/fieldobserver.h"
 #include "engine/datastructures/dynamicarray.h"
 #include "engine/datastructures/dynamicvector.h"
 #include "engine/datastructures/fixedarray.h"
@@ -20,16 +22,25 @@ class FieldIo {
 public:
     enum class Direction : bool { Read, Write };
 
-    FieldIo(Archive& _archive, Direction direction) : archive(_archive), reading(direction == Direction::Read) {}
+    FieldIo(Archive& _archive, Direction direction)
+        : archive(_archive), observer(_archive.GetObserver()), reading(direction == Direction::Read) {}
     FieldIo(const FieldIo&) = delete;
     FieldIo& operator=(const FieldIo&) = delete;
 
     bool Reading() const { return reading; }
     bool Writing() const { return !reading; }
 
+    // What the archive was given for its records.
+    const FieldContext& Context() const { return *archive.GetContext(); }
+
     // Whether the fields that came with version `threshold` are there: always in what is written, and in files of that
     // version or later.
-    bool Since(std::int32_t threshold) const { return !reading || archive.GetVersion() >= threshold; }
+    bool Since(std::int32_t threshold) const {
+        if (observer != nullptr) [[unlikely]] {
+            observer->OnVersion(threshold);
+        }
+        return !reading || archive.GetVersion() >= threshold;
+    }
     // Whether a file older than version `threshold` is read; a file without a version is older than all.
     bool Before(std::int32_t threshold) const { return !Since(threshold); }
 
@@ -51,7 +62,10 @@ public:
 
     // The capacity of the field is that of its member.
     template <int N>
-    void String(Label label, FixedString<N>& text) {
+    void String(Label label, FixedString<N>& text, NameKind kind = NameKind::None) {
+        if (observer != nullptr && kind != NameKind::None) [[unlikely]] {
+            observer->OnName(kind);
+        }
         if (reading) {
             archive.Read(label, text.Buffer().m_Buffer, N);
         } else {
@@ -88,7 +102,7 @@ public:
     template <template <class, int> class List, class T, int N, class Entry>
     void BoundedList(Label countLabel, List<T, N>& list, Entry entry) {
         if (reading) {
-            const std::int32_t count = ReadCount(countLabel);
+            const std::int32_t count = ReadCount({countLabel, ListRule::Bounded, N});
             if (count > N) {
                 ReportTooMany(countLabel, count, N);
             }
@@ -102,7 +116,8 @@ public:
     template <class T, int N, class Entry>
     void CappedList(Label countLabel, FixedVector<T, N>& list, Entry entry) {
         if (reading) {
-            ReadLimited(ReadCount(countLabel), list, entry, [] { CheckAssert(false, "m_CurrentSize < MAX_SIZE"); });
+            ReadLimited(ReadCount({countLabel, ListRule::Capped, N}), list, entry,
+                        [] { CheckAssert(false, "m_CurrentSize < MAX_SIZE"); });
         } else {
             WriteList(countLabel, list, entry);
         }
@@ -113,7 +128,7 @@ public:
     void GrowingList(Label countLabel, DynamicVector<T>& list, Entry entry) {
         if (reading) {
             list.Clear();
-            ReadEntries(ReadCount(countLabel), [&](std::int32_t) { entry(list.Append()); });
+            ReadEntries(ReadCount({countLabel, ListRule::Growing}), [&](std::int32_t) { entry(list.Append()); });
         } else {
             WriteList(countLabel, list, entry);
         }
@@ -124,7 +139,7 @@ public:
     void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry) {
         if (reading) {
             list.Clear();
-            const std::int32_t count = ReadCount(countLabel);
+            const std::int32_t count = ReadCount({countLabel, ListRule::Reserved});
             if (count > list.Capacity()) {
                 list.Reserve(count);
             }
@@ -139,7 +154,7 @@ public:
     template <class T, class Entry>
     void SizedList(Label countLabel, DynamicArray<T>& array, Entry entry) {
         if (reading) {
-            const std::int32_t count = ReadCount(countLabel, -1);
+            const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
             CheckAssert(count >= 0, "newSize >= 0");
             array.Resize(std::max(count, 0));
             ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
@@ -157,15 +172,15 @@ public:
     }
 
     // Reads the count of a list that has rules of its own.
-    std::int32_t ReadCount(Label label, std::int32_t start = 0);
+    std::int32_t ReadCount(const ListShape& list, std::int32_t start = 0);
     void WriteCount(Label label, std::int32_t count);
 
     // The same for both directions: what the file says, or `size`, written.
-    std::int32_t Count(Label label, std::int32_t size, std::int32_t start = 0) {
+    std::int32_t Count(const ListShape& list, std::int32_t size, std::int32_t start = 0) {
         if (reading) {
-            return ReadCount(label, start);
+            return ReadCount(list, start);
         }
-        WriteCount(label, size);
+        WriteCount(list.countLabel, size);
         return size;
     }
 
@@ -173,7 +188,13 @@ public:
     template <class Entry>
     void ReadEntries(std::int32_t count, Entry entry) {
         for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
+            if (observer != nullptr) [[unlikely]] {
+                observer->OnEntry(i);
+            }
             entry(i);
+        }
+        if (observer != nullptr) [[unlikely]] {
+            observer->OnListEnd();
         }
     }
 
@@ -211,6 +232,8 @@ private:
     static void ReportTooMany(Label countLabel, std::int32_t count, std::int32_t allowed);
 
     Archive& archive;
+    // Follows what is read; null while writing counts too, since it asks for nothing.
+    FieldObserver* const observer;
     const bool reading;
 };
 

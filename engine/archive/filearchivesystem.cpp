@@ -86,18 +86,23 @@ void FileArchiveSystem::Destroy(FileArchive*& archive) {
 
 FileArchive* FileArchiveSystem::Create(File* file, FileArchiveType type, bool hasFloatBits) {
     ++fileArchiveCount;
+    FileArchive* archive = Make(file, type, hasFloatBits);
+    CheckAssert(archive != nullptr, "false");
+    if (archive != nullptr) {
+        archive->SetContext(&context);
+    }
+    return archive;
+}
+
+FileArchive* FileArchiveSystem::Make(File* file, FileArchiveType type, bool hasFloatBits) const {
     switch (type) {
     case FileArchiveType::Text:
         return new TextFileArchive(file, hasFloatBits);
     case FileArchiveType::Binary:
         return new BinaryFileArchive(file, hasFloatBits);
     case FileArchiveType::Steam:
-        if (remoteStorage != nullptr) {
-            return new SteamFileArchive(*remoteStorage, hasFloatBits);
-        }
-        [[fallthrough]];
+        return remoteStorage != nullptr ? new SteamFileArchive(*remoteStorage, hasFloatBits) : nullptr;
     default:
-        CheckAssert(false, "false");
         return nullptr;
     }
 }

@@ -11,7 +11,9 @@ class RemoteStorage;
 // version. A loader names only a path, so that text and binary files stand for each other everywhere.
 class FileArchiveSystem {
 public:
-    explicit FileArchiveSystem(FileSystem& _fileSystem) : fileSystem(_fileSystem) {}
+    // The archives give the context to their records.
+    FileArchiveSystem(FileSystem& _fileSystem, const FieldContext& _context)
+        : fileSystem(_fileSystem), context(_context) {}
     FileArchiveSystem(const FileArchiveSystem&) = delete;
     FileArchiveSystem& operator=(const FileArchiveSystem&) = delete;
     virtual ~FileArchiveSystem();
@@ -35,9 +37,12 @@ public:
     // Makes and counts the archive of a file that stands behind its header; null for an unknown type.
     FileArchive* Create(File* file, FileArchiveType type, bool hasFloatBits);
 
+    const FieldContext& GetContext() const { return context; }
+
     std::int32_t GetFileArchiveCount() const { return fileArchiveCount; }
 
 private:
+    FileArchive* Make(File* file, FileArchiveType type, bool hasFloatBits) const;
     FileArchiveType DetectType(std::u16string_view fileName, bool& hasVersion);
     bool DetectBinary(std::u16string_view fileName, bool& hasVersion);
     bool DetectText(std::u16string_view fileName, bool& hasVersion);
@@ -45,6 +50,7 @@ private:
     static void WriteHeader(File* file, FileArchiveType type);
 
     FileSystem& fileSystem;
+    const FieldContext& context;
     RemoteStorage* remoteStorage = nullptr;
     std::int32_t fileArchiveCount = 0;
 };

@@ -5,7 +5,7 @@
 namespace Vorn {
 
 namespace {
-constinit EndGuard* g_EndGuards = nullptr;
+constinit thread_local EndGuard* g_EndGuards = nullptr;
 }
 
 EndGuard::EndGuard() : next(g_EndGuards) {

@@ -6,7 +6,9 @@ namespace Vorn {
 // unwinding and no text of its own.
 [[noreturn]] void EndAbnormally();
 
-// Something that has to be brought to safety before the process ends abnormally. Lives in a list while it exists.
+// Something that has to be brought to safety before the process ends abnormally. Lives in a list of its thread while it
+// exists, and is called in the thread that ends, the latest first. One that throws keeps the process alive: the end is
+// an exception then, for whoever made the guard.
 class EndGuard {
 public:
     EndGuard();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/archive/fieldcontext.h"
 #include "engine/archive/filearchivesystem.h"
 #include "engine/datastructures/fixedarray.h"
 #include "engine/file/filesystem.h"
@@ -8,22 +9,22 @@
 
 namespace Vorn {
 
-// Owner of the engine's systems. Records reach the systems of the core made last through GetCore.
+// Owner of the engine's systems. Records reach what they need of them through the context of their archive.
 class Core {
 public:
-    Core();
+    Core() = default;
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
-    ~Core();
 
     // A well-known directory by its place in the table; empty until engine set-up fills it, which the converter never
     // runs.
     std::u16string_view GetDirectory(int kind) const { return directories[kind].path.View(); }
 
     FileSystem fileSystem;
-    FileArchiveSystem fileArchiveSystem{fileSystem};
-    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
     TextureSystem textureSystem;
+    FieldContext context{&textureSystem, &meshSystem};
+    FileArchiveSystem fileArchiveSystem{fileSystem, context};
+    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
 
 private:
     struct WellKnownDirectory {
@@ -32,9 +33,6 @@ private:
     };
 
     FixedArray<WellKnownDirectory, 34> directories;
-    Core* previous;
 };
-
-Core& GetCore();
 
 } // namespace Vorn

@@ -7,7 +7,7 @@
 
 namespace Vorn {
 
-constinit Reporting g_Reporting;
+constinit thread_local Reporting g_Reporting;
 
 namespace {
 

@@ -25,7 +25,8 @@ public:
     virtual int Show(std::u16string_view title, std::u16string_view text) = 0;
 };
 
-// Where reports go. The converter runs with none of it set, so that every report ends on the debug output alone.
+// Where the reports of a thread go. The converter runs with none of it set, so that every report ends on the debug
+// output alone.
 struct Reporting {
     ReportHandler* reportHandler = nullptr;
     MessageHandler* messageHandler = nullptr;
@@ -34,7 +35,7 @@ struct Reporting {
     bool debugChecksOff = false;
 };
 
-extern Reporting g_Reporting;
+extern constinit thread_local Reporting g_Reporting;
 
 // A format that remembers where it was written.
 struct FormatAt {

@@ -8,7 +8,7 @@ namespace Vorn {
 // nothing outside the container is ever touched.
 template <class T>
 T& ScratchElement() {
-    static T scratch{};
+    static thread_local T scratch{};
     std::destroy_at(&scratch);
     return *std::construct_at(&scratch);
 }

@@ -1,7 +1,5 @@
 #include "engine/window/brush.h"
 
-#include "engine/core/core.h"
-
 #include <algorithm>
 #include <iterator>
 
@@ -20,7 +18,7 @@ bool HoldsStates(ArchiveContent content) {
 }
 
 FileTexture* AcquireSame(const FileTexture* texture) {
-    return texture != nullptr ? GetCore().textureSystem.Acquire(texture->GetFileName().View()) : nullptr;
+    return texture != nullptr ? texture->GetOwner().Acquire(texture->GetFileName().View()) : nullptr;
 }
 
 } // namespace
@@ -57,7 +55,7 @@ void Brush::StateInfo::Fields(FieldIo& io) {
     io.String(u"fileName", fileName);
     if (io.Reading()) {
         ReleaseTexture();
-        texture = GetCore().textureSystem.Acquire(fileName.View());
+        texture = io.Context().textures->Acquire(fileName.View());
     }
     io.Rectangle(u"pixelBox", pixelBox);
 }
@@ -96,15 +94,17 @@ bool Brush::StateInfo::IsLike(const StateInfo& other) const {
 }
 
 bool Brush::StateInfo::HasTextureOf(const StateInfo& other) const {
-    if (texture != nullptr && other.texture != nullptr && GetCore().textureSystem.HasNameOnlyTextures()) {
+    if (texture != nullptr && other.texture != nullptr && texture->GetOwner().HasNameOnlyTextures()) {
         return texture->GetFileName() == other.texture->GetFileName();
     }
     return texture == other.texture;
 }
 
 void Brush::StateInfo::ReleaseTexture() {
-    GetCore().textureSystem.Release(texture);
-    texture = nullptr;
+    if (texture != nullptr) {
+        texture->GetOwner().Release(texture);
+        texture = nullptr;
+    }
 }
 
 void Brush::Fields(FieldIo& io) {

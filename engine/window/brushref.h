@@ -7,7 +7,7 @@ namespace Vorn {
 class Brush;
 
 // A brush by name; the game resolves it to the brush itself.
-class BrushRef : public NamedReference<100> {
+class BrushRef : public NamedReference<100, NameKind::Brush> {
 public:
     BrushRef() : BrushRef(false) {}
 

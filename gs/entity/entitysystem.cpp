@@ -20,11 +20,16 @@ void TransferType(FieldIo& io, EntityType& type) {
 
 } // namespace
 
+EntitySystem::EntitySystem(FileArchiveSystem& _archives) : archives(_archives), context(archives.GetContext()) {
+    context.players = &playerSystem;
+}
+
 std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path) {
     FileArchive* archive = archives.OpenForRead(path, false);
     if (archive == nullptr) {
         return nullptr;
     }
+    archive->SetContext(&context);
     FieldIo io(*archive, FieldIo::Direction::Read);
     EntityType type = EntityType::Invalid;
     TransferType(io, type);
@@ -60,6 +65,7 @@ std::unique_ptr<EntityDef> EntitySystem::CreateEntityDef(EntityType type, std::u
 }
 
 void EntitySystem::WriteEntityDef(Archive& archive, const EntityDef& definition) {
+    archive.SetContext(&context);
     FieldIo io(archive, FieldIo::Direction::Write);
     EntityType type = definition.GetEntityType();
     TransferType(io, type);

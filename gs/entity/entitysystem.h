@@ -12,9 +12,13 @@ class FileArchiveSystem;
 // Loads and makes entity definitions.
 class EntitySystem {
 public:
-    explicit EntitySystem(FileArchiveSystem& _archives) : archives(_archives) {}
+    explicit EntitySystem(FileArchiveSystem& _archives);
     EntitySystem(const EntitySystem&) = delete;
     EntitySystem& operator=(const EntitySystem&) = delete;
+
+    // What definitions need from outside, for archives that are not opened here. The names of races and factions are
+    // those of this system.
+    const FieldContext& GetContext() const { return context; }
 
     // The definition in a file, named after the file's stem. Null, after its report, for a file that is no archive, a
     // type without a class and a stem of 80 or more units. Damage inside only reports.
@@ -24,7 +28,7 @@ public:
     std::unique_ptr<EntityDef> CreateEntityDef(EntityType type, std::u16string_view name);
 
     // Writes a definition as a file holds it, the type's text first.
-    static void WriteEntityDef(Archive& archive, const EntityDef& definition);
+    void WriteEntityDef(Archive& archive, const EntityDef& definition);
 
     // The sum of all that was read of the files so far, refused ones included.
     std::uint32_t GetEntityDefArchiveSum() const { return entityDefArchiveSum; }
@@ -35,6 +39,7 @@ private:
     FileArchiveSystem& archives;
     // Definitions keep names of races and factions as indexes into its lists.
     PlayerSystem playerSystem;
+    FieldContext context;
     std::uint32_t entityDefArchiveSum = 0;
 };
 

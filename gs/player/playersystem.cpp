@@ -1,12 +1,6 @@
 #include "gs/player/playersystem.h"
 
-#include <utility>
-
 namespace Vorn {
-
-namespace {
-constinit PlayerSystem* g_PlayerSystem = nullptr;
-}
 
 std::int32_t NameList::Resolve(std::u16string_view name) {
     if (name.empty()) {
@@ -36,12 +30,6 @@ void NameList::Transfer(FieldIo& io, Label label, std::int32_t& index) {
     }
 }
 
-PlayerSystem::PlayerSystem() : previous(std::exchange(g_PlayerSystem, this)) {}
-
-PlayerSystem::~PlayerSystem() {
-    g_PlayerSystem = previous;
-}
-
 void PlayerSystem::TransferRace(FieldIo& io, Label label, std::int32_t& index) {
     CheckAssert(io.Reading() || races.IsIndex(index), "raceNameIndex > -1 && raceNameIndex < races.Size()");
     races.Transfer(io, label, index);
@@ -50,10 +38,6 @@ void PlayerSystem::TransferRace(FieldIo& io, Label label, std::int32_t& index) {
 void PlayerSystem::TransferFaction(FieldIo& io, Label label, std::int32_t& index) {
     CheckAssert(io.Reading() || factions.IsIndex(index), "factionNameIndex > -1 && factionNameIndex < factions.Size()");
     factions.Transfer(io, label, index);
-}
-
-PlayerSystem& GetPlayerSystem() {
-    return *g_PlayerSystem;
 }
 
 } // namespace Vorn

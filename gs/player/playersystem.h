@@ -27,14 +27,12 @@ private:
     DynamicVector<Name> names;
 };
 
-// What is known of players while definitions are converted: the names of races and factions that they mention. Records
-// reach the system made last through GetPlayerSystem.
+// What is known of players while definitions are converted: the names of races and factions that they mention.
 class PlayerSystem {
 public:
-    PlayerSystem();
+    PlayerSystem() = default;
     PlayerSystem(const PlayerSystem&) = delete;
     PlayerSystem& operator=(const PlayerSystem&) = delete;
-    ~PlayerSystem();
 
     // Fields as NameList::Transfer has them, with the check that an index that is written is in its list.
     void TransferRace(FieldIo& io, Label label, std::int32_t& index);
@@ -42,11 +40,6 @@ public:
 
     NameList races;
     NameList factions;
-
-private:
-    PlayerSystem* previous;
 };
-
-PlayerSystem& GetPlayerSystem();
 
 } // namespace Vorn

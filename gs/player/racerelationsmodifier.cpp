@@ -3,14 +3,14 @@
 namespace Vorn {
 
 void FactionRelationsModifier::Fields(FieldIo& io) {
-    GetPlayerSystem().TransferFaction(io, u"factionNameID", faction);
-    GetPlayerSystem().TransferFaction(io, u"otherFactionNameID", otherFaction);
+    io.Context().players->TransferFaction(io, u"factionNameID", faction);
+    io.Context().players->TransferFaction(io, u"otherFactionNameID", otherFaction);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
 }
 
 void RaceRelationsModifier::Fields(FieldIo& io) {
-    GetPlayerSystem().TransferRace(io, u"raceNameID", race);
+    io.Context().players->TransferRace(io, u"raceNameID", race);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
     io.SizedList(u"factionRelationsModCount", factionRelations,

@@ -12,7 +12,7 @@ void ResearchPrerequisite::Fields(FieldIo& io) {
 void ResearchPrerequisites::Fields(FieldIo& io) {
     io.BoundedList(u"NumResearchPrerequisites", prerequisites,
                    [&](ResearchPrerequisite& prerequisite) { io.Record(u"ResearchPrerequisite", prerequisite); });
-    GetPlayerSystem().factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
+    io.Context().players->factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
     io.Uint(u"RequiredCompletedResearchSubjects", requiredCompletedResearchSubjects);
 }
 

@@ -22,6 +22,6 @@ int main(int argc, char** argv) {
     if (archive == nullptr) {
         return 1;
     }
-    Vorn::EntitySystem::WriteEntityDef(*archive, *fighter);
+    entities.WriteEntityDef(*archive, *fighter);
     archives.Close(archive);
 }

@@ -61,7 +61,7 @@ void ConvertEntity(Core& core, const Conversion& conversion) {
     const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(conversion.source);
     if (definition != nullptr) {
         WriteDestination(core, conversion,
-                         [&](Archive& archive) { EntitySystem::WriteEntityDef(archive, *definition); });
+                         [&](Archive& archive) { entitySystem.WriteEntityDef(archive, *definition); });
     }
 }
 

@@ -17,7 +17,7 @@ constexpr std::int32_t kMissingCount = -1;
 template <class T, class Entry>
 void SizedArray(FieldIo& io, Label countLabel, DynamicArray<T>& array, Entry entry) {
     if (io.Reading()) {
-        array.Resize(io.ReadCount(countLabel, kMissingCount));
+        array.Resize(io.ReadCount({countLabel, ListRule::Sized}, kMissingCount));
         io.ReadEntries(array.Size(), [&](std::int32_t i) { entry(array[i]); });
     } else {
         io.WriteCount(countLabel, array.Size());

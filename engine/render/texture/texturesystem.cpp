@@ -28,6 +28,7 @@ void TextureSystem::AddBlock() {
     blocks.push_back(std::make_unique_for_overwrite<FileTexture[]>(kBlockSize));
     for (std::size_t i = 0; i < kBlockSize; ++i) {
         FileTexture& texture = blocks.back()[i];
+        texture.owner = this;
         texture.nextFree = firstFree;
         firstFree = &texture;
     }

@@ -7,9 +7,13 @@
 
 namespace Vorn {
 
+class TextureSystem;
+
 // A texture as far as records need it: its names, and its extent in pixels, 0 without an image.
 class FileTexture {
 public:
+    // The system that handed it out.
+    TextureSystem& GetOwner() const { return *owner; }
     const FixedString<256>& GetName() const { return name; }
     const FixedString<256>& GetFileName() const { return fileName; }
     std::int32_t GetWidth() const { return 0; }
@@ -20,6 +24,7 @@ private:
 
     FixedString<256> name;
     FixedString<256> fileName;
+    TextureSystem* owner = nullptr;
     FileTexture* nextFree = nullptr;
 };
 

@@ -1,7 +1,7 @@
 #include "gs/entity/interfaces/idamagedefinition.h"
 
-#include "engine/core/core.h"
 #include "engine/core/reporting.h"
+#include "engine/render/mesh/meshsystem.h"
 
 namespace Vorn {
 
@@ -11,15 +11,15 @@ void IDamageDefinition::Fields(FieldIo& io) {
     io.BoundedList(u"numSpecificDebris", specificDebrisMeshNames,
                    [&](FixedString<256>& name) { io.String(u"specificDebrisMeshName", name); });
     io.Enum(u"armorType", armorType);
-    if (io.Reading()) {
-        ReportMissingMeshes();
+    if (io.Reading() && io.Context().meshes != nullptr) {
+        ReportMissingMeshes(*io.Context().meshes);
     }
 }
 
-void IDamageDefinition::ReportMissingMeshes() const {
+void IDamageDefinition::ReportMissingMeshes(const MeshSystem& meshes) const {
     for (const FixedString<256>& name : specificDebrisMeshNames) {
         FixedString<260> path;
-        if (!GetCore().meshSystem.FindMeshFile(path, name.View())) {
+        if (!meshes.FindMeshFile(path, name.View())) {
             ReportError(u"IDamage debris mesh does not exist: %s", name);
         }
     }

@@ -5,6 +5,8 @@
 
 namespace Vorn {
 
+class MeshSystem;
+
 // What has hull and armor. Each mesh of specific debris that is read is looked up as a file and reported if there is
 // none; its name stays.
 struct IDamageDefinition : Record {
@@ -16,7 +18,7 @@ struct IDamageDefinition : Record {
     void Fields(FieldIo& io) override;
 
 private:
-    void ReportMissingMeshes() const;
+    void ReportMissingMeshes(const MeshSystem& meshes) const;
 };
 
 } // namespace Vorn

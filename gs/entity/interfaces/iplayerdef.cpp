@@ -20,13 +20,13 @@ void IPlayerDef::Fields(FieldIo& io) {
     io.String(u"playerPictureGroupName", playerPictureGroupName);
     io.SizedList(u"raceRelationsModCount", raceRelations,
                  [&](RaceRelationsModifier& modifier) { io.Record(u"raceRelationsModifier", modifier); });
-    GetPlayerSystem().TransferFaction(io, u"defaultFactionNameID", defaultFaction);
+    io.Context().players->TransferFaction(io, u"defaultFactionNameID", defaultFaction);
 }
 
 void IPlayerDef::NameFields(FieldIo& io) {
     io.String(u"raceNameStringID", raceNameStringID);
     if (io.Reading()) {
-        race = GetPlayerSystem().races.Resolve(raceNameStringID.View());
+        race = io.Context().players->races.Resolve(raceNameStringID.View());
     }
 }
 

@@ -15,6 +15,7 @@ public:
 
     void Read(Label label, Archive& archive) override;
     void Write(Label label, Archive& archive) const override;
+    NameKind GetNameKind() const override { return NameKind::Entity; }
 
     bool IsValid() const { return !text.IsEmpty(); }
     const FixedString<kCapacity>& GetText() const { return text; }

@@ -6,7 +6,7 @@
 namespace Vorn {
 
 // A sound by name.
-class SoundID : public NamedReference<256> {};
+class SoundID : public NamedReference<256, NameKind::Sound> {};
 
 // A list of sounds without a limit.
 struct SoundIDVector : Record {

@@ -40,7 +40,7 @@ private:
     template <class Entry, class T, int N, class Transfer>
     static void Listed(FieldIo& io, Label countLabel, FixedArray<T, N>& elements, Transfer transfer) {
         if (io.Reading()) {
-            io.ReadEntries(io.ReadCount(countLabel), [&](std::int32_t) {
+            io.ReadEntries(io.ReadCount({countLabel, ListRule::Keyed, N}), [&](std::int32_t) {
                 Entry entry;
                 transfer(entry);
                 elements[static_cast<int>(entry.propertyType)] = entry.value;

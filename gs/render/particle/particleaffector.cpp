@@ -18,7 +18,8 @@ void ParticleAffector::Fields(FieldIo& io) {
 
 // Files may hold longer names than the list does, which are cut when they are taken over.
 void ParticleAffector::AttachmentFields(FieldIo& io) {
-    const std::int32_t count = io.Count(u"numAttachedEmitters", attachedEmitterNames.Size());
+    const std::int32_t count = io.Count({u"numAttachedEmitters", ListRule::Fatal, attachedEmitterNames.Capacity()},
+                                        attachedEmitterNames.Size());
     io.ReadEntries(count, [&](std::int32_t i) {
         FixedString<256> emitterName;
         if (io.Writing()) {

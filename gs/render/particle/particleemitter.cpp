@@ -92,7 +92,8 @@ void ParticleEmitter::AppearanceFields(FieldIo& io) {
 
 // A file may hold any number of names: surplus ones fire the array's check and are dropped.
 void ParticleEmitter::TextureFields(FieldIo& io) {
-    const std::int32_t elementCount = io.Count(u"numTextures", textureNames.Size());
+    const std::int32_t elementCount =
+        io.Count({u"numTextures", ListRule::Exact, textureNames.Size()}, textureNames.Size());
     CheckAssert(elementCount == textureNames.Size(), "elementCount == data->Size()");
     io.ReadEntries(elementCount, [&](std::int32_t i) { io.String(u"textureName", textureNames[i]); });
     io.String(u"textureAnimationName", textureAnimationName);

@@ -28,7 +28,7 @@ struct PartLabels {
 // Parts of various classes: each one's type stands in front, so that the reader can make the class with `add`.
 template <class Part, int N, class Add>
 void PartList(FieldIo& io, const PartLabels& labels, FixedVector<std::unique_ptr<Part>, N>& parts, Add add) {
-    const std::int32_t count = io.Count(labels.count, parts.Size(), kNoCount);
+    const std::int32_t count = io.Count({labels.count, ListRule::Fatal, N}, parts.Size(), kNoCount);
     io.ReadEntries(count, [&](std::int32_t i) {
         auto type = static_cast<std::int32_t>(io.Writing() ? parts[i]->GetType() : Part::Type::Invalid);
         io.EnumNumber(labels.type, type, Part::kTypes);

@@ -5,6 +5,6 @@
 namespace Vorn {
 
 // How other records name a particle effect.
-class ParticleSimulationDefinitionRef : public NamedReference<256> {};
+class ParticleSimulationDefinitionRef : public NamedReference<256, NameKind::Particle> {};
 
 } // namespace Vorn

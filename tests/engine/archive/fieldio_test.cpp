@@ -101,7 +101,7 @@ TEST_F(ListTest, HugeCountsStopBehindTheEnd) {
     g_Reporting.reportHandler = &dropReports;
     std::int32_t entries = 0;
     Read(std::string(kBinaryHeader) + std::string("\xFF\xFF\xFF\x7F", 4), [&](FieldIo& io) {
-        io.ReadEntries(io.ReadCount(u"count"), [&](std::int32_t) {
+        io.ReadEntries(io.ReadCount({u"count", ListRule::Growing}), [&](std::int32_t) {
             std::int32_t value = 0;
             io.Int(u"n", value);
             ++entries;

@@ -59,6 +59,7 @@ protected:
 
     std::string Written(FileArchiveType form, const std::function<void(Archive&)>& write) {
         FileArchive* archive = Archives().OpenForWrite(NameIn("written"), false, form);
+        archive->SetContext(&entities.GetContext());
         write(*archive);
         Archives().Close(archive);
         return ReadBytes(folder.Path() / "written").value_or("");
@@ -71,6 +72,7 @@ protected:
     // The sum of the file that was read.
     std::uint32_t ReadFile(std::u16string_view name, Archivable& content) {
         FileArchive* archive = Archives().OpenForRead(name, false);
+        archive->SetContext(&entities.GetContext());
         content.Read(*archive);
         const std::uint32_t checkSum = archive->GetCheckSum();
         Archives().Close(archive);
@@ -79,6 +81,7 @@ protected:
 
     void Cache(const Archivable& content) {
         CacheArchive cache(core->fileSystem);
+        cache.SetContext(&entities.GetContext());
         EXPECT_TRUE(cache.OpenWriteFile(Put("cache", "")));
         content.Write(cache);
         cache.CloseWriteFile();
@@ -114,8 +117,10 @@ protected:
 TEST_F(FurtherArchivesTest, SamplesThroughBitStreams) {
     ForEachSample([&](const Content& content, Content& back, const std::string& text) {
         BitStreamArchive written;
+        written.SetContext(&entities.GetContext());
         content.Write(written);
         BitStreamArchive read(written.GetStream());
+        read.SetContext(&entities.GetContext());
         read.SetVersion(kArchiveVersion);
         back.Read(read);
         EXPECT_EQ(Written(FileArchiveType::Text, back), text);
@@ -127,6 +132,7 @@ TEST_F(FurtherArchivesTest, SamplesThroughRemoteStorage) {
         MemoryStorage storage;
         Archives().SetRemoteStorage(&storage);
         FileArchive* archive = Archives().OpenForWrite(u"", false, FileArchiveType::Steam);
+        archive->SetContext(&entities.GetContext());
         content.Write(*archive);
         const std::string binary = Written(FileArchiveType::Binary, content);
         Content fromFile(entities, content.kind);

@@ -7,9 +7,10 @@ namespace Vorn {
 
 class EntityTypesTest : public FileTest {
 protected:
-    std::string WriteFile(const EntityDef& definition, std::string_view fileName, FileArchiveType form) {
+    std::string WriteFile(EntitySystem& entitySystem, const EntityDef& definition, std::string_view fileName,
+                          FileArchiveType form) {
         FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn(fileName), false, form);
-        EntitySystem::WriteEntityDef(*archive, definition);
+        entitySystem.WriteEntityDef(*archive, definition);
         core->fileArchiveSystem.Close(archive);
         return ReadBytes(folder.Path() / fileName).value_or("");
     }
@@ -18,7 +19,7 @@ protected:
     std::string ConvertFile(std::string_view from, std::string_view to, FileArchiveType form) {
         EntitySystem entitySystem(core->fileArchiveSystem);
         const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(NameIn(from));
-        return definition != nullptr ? WriteFile(*definition, to, form) : "";
+        return definition != nullptr ? WriteFile(entitySystem, *definition, to, form) : "";
     }
 
     // Empty contents fail checks of what a definition should hold. Any other report means that reading and writing are
@@ -50,8 +51,8 @@ TEST_F(EntityTypesTest, AnEmptyDefinitionOfEachTypeSurvivesBothForms) {
         SCOPED_TRACE(Utf8(row->text));
         EntitySystem entitySystem(core->fileArchiveSystem);
         const auto definition = entitySystem.CreateEntityDef(static_cast<EntityType>(i), u"empty");
-        const std::string text = WriteFile(*definition, "text", FileArchiveType::Text);
-        const std::string binary = WriteFile(*definition, "binary", FileArchiveType::Binary);
+        const std::string text = WriteFile(entitySystem, *definition, "text", FileArchiveType::Text);
+        const std::string binary = WriteFile(entitySystem, *definition, "binary", FileArchiveType::Binary);
         EXPECT_EQ(ConvertFile("text", "binaryagain", FileArchiveType::Binary), binary);
         EXPECT_EQ(ConvertFile("binaryagain", "textagain", FileArchiveType::Text), text);
         ExpectChecksAlone();

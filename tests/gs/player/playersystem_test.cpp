@@ -24,13 +24,4 @@ TEST(NameList, HasNoTextOutsideTheList) {
     }
 }
 
-TEST(PlayerSystem, IsReachedWhileItExists) {
-    PlayerSystem outer;
-    {
-        PlayerSystem inner;
-        EXPECT_EQ(&GetPlayerSystem(), &inner);
-    }
-    EXPECT_EQ(&GetPlayerSystem(), &outer);
-}
-
 } // namespace Vorn

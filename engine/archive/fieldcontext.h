@@ -1,0 +1,20 @@
+#pragma once
+
+namespace Vorn {
+
+class MeshSystem;
+class PlayerSystem;
+class TextureSystem;
+
+// What records need from outside while they are read and written. It belongs to whoever starts a conversion and reaches
+// the records through their archive.
+struct FieldContext {
+    // Where brushes get their textures. Needed by brushes.
+    TextureSystem* textures = nullptr;
+    // Where the meshes of debris are looked for; null where a missing one is not to be reported.
+    const MeshSystem* meshes = nullptr;
+    // The names of races and factions. Needed by entity definitions.
+    PlayerSystem* players = nullptr;
+};
+
+} // namespace Vorn

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "engine/archive/archivable.h"
+
+namespace Vorn {
+
+class Record;
+struct EnumTable;
+
+// What becomes of a count that is larger than a list has room for.
+enum class ListRule {
+    // The surplus is reported once and dropped.
+    Bounded,
+    // Each surplus entry is reported and dropped.
+    Capped,
+    // A surplus entry ends the process abnormally.
+    Fatal,
+    // There is no limit.
+    Growing,
+    // There is no limit, and the room is made at once for the count.
+    Reserved,
+    // There is no limit, the array has as many elements as the count says, and a missing count is reported.
+    Sized,
+    // There is a place for each row of an enumeration that the entries begin with: of two entries with the same row the
+    // later one is kept, and the order of the rows is that of the table.
+    Keyed,
+    // The list has as many entries as its limit says, and any other count is reported.
+    Exact
+};
+
+struct ListShape {
+    static constexpr std::int32_t kUnlimited = -1;
+
+    Label countLabel;
+    ListRule rule;
+    // Entries that are kept, or kUnlimited.
+    std::int32_t limit = kUnlimited;
+};
+
+// Follows the fields of a record while they are read: it gets what the list of fields knows and an archive cannot see.
+// FieldIo calls it ahead of the reads that it speaks of, if the archive has one.
+class FieldObserver {
+public:
+    virtual ~FieldObserver() = default;
+
+    // The next text is a row of this table, or "Invalid".
+    virtual void OnEnum(const EnumTable&) {}
+    // The next text is a name of this kind.
+    virtual void OnName(NameKind) {}
+    // The next float is an angle in degrees.
+    virtual void OnDegrees() {}
+    // The next Uint is the count of a list. OnEntry precedes each of its entries, OnListEnd follows the last.
+    virtual void OnList(const ListShape&) {}
+    virtual void OnEntry(std::int32_t) {}
+    virtual void OnListEnd() {}
+    // The record asks whether the file is of this version or later.
+    virtual void OnVersion(std::int32_t) {}
+    // The fields of a record without a label of its own, from the first to the last.
+    virtual void OnBlock(const Record&) {}
+    virtual void OnBlockEnd() {}
+};
+
+} // namespace Vorn

@@ -44,16 +44,16 @@ public:
     // Whether a file older than version `threshold` is read; a file without a version is older than all.
     bool Before(std::int32_t threshold) const { return !Since(threshold); }
 
-    void Color(Label label, Color& value) { Transfer(label, value); }
-    void Rectangle(Label label, Rectangle& value) { Transfer(label, value); }
-    void Size(Label label, Size& value) { Transfer(label, value); }
-    void Point(Label label, Point& value) { Transfer(label, value); }
-    void Quad(Label label, Quad& value) { Transfer(label, value); }
-    void Matrix44(Label label, Matrix44& value) { Transfer(label, value); }
-    void Matrix33(Label label, Matrix33& value) { Transfer(label, value); }
-    void Vector3(Label label, Vector3& value) { Transfer(label, value); }
+    void Color(Label label, Vorn::Color& value) { Transfer(label, value); }
+    void Rectangle(Label label, Vorn::Rectangle& value) { Transfer(label, value); }
+    void Size(Label label, Vorn::Size& value) { Transfer(label, value); }
+    void Point(Label label, Vorn::Point& value) { Transfer(label, value); }
+    void Quad(Label label, Vorn::Quad& value) { Transfer(label, value); }
+    void Matrix44(Label label, Vorn::Matrix44& value) { Transfer(label, value); }
+    void Matrix33(Label label, Vorn::Matrix33& value) { Transfer(label, value); }
+    void Vector3(Label label, Vorn::Vector3& value) { Transfer(label, value); }
     void Int64(Label label, std::int64_t& value) { Transfer(label, value); }
-    void Bool(Label label, Bool& value) { Transfer(label, value); }
+    void Bool(Label label, Vorn::Bool& value) { Transfer(label, value); }
     void Double(Label label, double& value) { Transfer(label, value); }
     void Float(Label label, float& value) { Transfer(label, value); }
     void Int(Label label, std::int32_t& value) { Transfer(label, value); }
@@ -92,6 +92,30 @@ public:
 
     // A record whose fields stand at this level, without a label.
     void Block(class Record& block);
+
+    // The entry of a list whose elements are one field under one label each: `io.BoundedList(u"NumWeapons", weapons,
+    // io.Records(u"Weapon"))`.
+    auto Records(Label label) {
+        return [this, label](Archivable& element) { Record(label, element); };
+    }
+    auto Values(Label label) {
+        return [this, label](SingleLineArchivable& element) { Value(label, element); };
+    }
+    auto Strings(Label label) {
+        return [this, label](auto& element) { String(label, element); };
+    }
+    auto Names(Label label, NameKind kind) {
+        return [this, label, kind](auto& element) { String(label, element, kind); };
+    }
+    auto Enums(Label label) {
+        return [this, label](auto& element) { Enum(label, element); };
+    }
+    auto Floats(Label label) {
+        return [this, label](float& element) { Float(label, element); };
+    }
+    auto Uints(Label label) {
+        return [this, label](std::uint32_t& element) { Uint(label, element); };
+    }
 
     // Lists are a count under `countLabel` and then the elements, each transferred by `entry`. A missing count, 0 and
     // every negative number make an empty list; reading replaces what the list held. The verbs differ in what they do
@@ -163,11 +187,12 @@ public:
         }
     }
 
-    // A fixed array, which has no count: each element stands under a label of its own.
-    template <class T, int N, class Entry>
-    void LabelledArray(const Label (&labels)[N], FixedArray<T, N>& array, Entry entry) {
+    // A fixed array, which has no count: each element stands under a label of its own, as an entry of the kind that
+    // `entries` makes: `io.LabelledArray(kDamageLabels, damage, &FieldIo::Floats)`.
+    template <class T, int N, class Entries>
+    void LabelledArray(const Label (&labels)[N], FixedArray<T, N>& array, Entries entries) {
         for (int i = 0; i < N; ++i) {
-            entry(labels[i], array[i]);
+            (this->*entries)(labels[i])(array[i]);
         }
     }
 

@@ -15,7 +15,7 @@ void BrushSet::Load(FileArchiveSystem& archives) {
 
 void BrushSet::Fields(FieldIo& io) {
     io.Bool(u"onlyLoadOnDemand", onlyLoadOnDemand);
-    io.ReservedList(u"brushCount", brushes, [&](Brush& brush) { io.Record(u"brush", brush); });
+    io.ReservedList(u"brushCount", brushes, io.Records(u"brush"));
 }
 
 void BrushSet::ReleaseTextures() {

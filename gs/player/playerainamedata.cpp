@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void PlayerAINameData::Fields(FieldIo& io) {
-    io.GrowingList(u"nameCount", names, [&](FixedString<256>& name) { io.String(u"name", name); });
+    io.GrowingList(u"nameCount", names, io.Strings(u"name"));
 }
 
 } // namespace Vorn

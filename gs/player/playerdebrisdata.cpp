@@ -4,7 +4,7 @@ namespace Vorn {
 
 void PlayerDebrisData::Fields(FieldIo& io) {
     // Both lists have the same key for their entries.
-    const auto meshName = [&](FixedString<256>& name) { io.String(u"randomMeshName", name); };
+    const auto meshName = io.Strings(u"randomMeshName");
     io.BoundedList(u"numRandomMeshNamesLarge", randomMeshNamesLarge, meshName);
     io.BoundedList(u"numRandomMeshNamesSmall", randomMeshNamesSmall, meshName);
 }

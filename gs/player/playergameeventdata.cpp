@@ -1,6 +1,6 @@
 #include "gs/player/playergameeventdata.h"
 
-#include "engine/archive/archiveversion.h"
+#include "gs/contentversions.h"
 
 #include <iterator>
 #include <limits>

@@ -25,7 +25,7 @@ void PlayerGameOverWindowData::Fields(FieldIo& io) {
     io.Value(u"hasWonPicture", hasWonPicture);
     io.Value(u"hasLostPicture", hasLostPicture);
     io.Value(u"themeBackdropBrush", themeBackdropBrush);
-    io.LabelledArray(kTextLabels, textIds, [&](Label label, FixedString<256>& id) { io.String(label, id); });
+    io.LabelledArray(kTextLabels, textIds, &FieldIo::Strings);
 }
 
 } // namespace Vorn

@@ -198,8 +198,8 @@ constexpr Label kBrushLabels[] = {
 
 void PlayerHUDSkinData::Fields(FieldIo& io) {
     io.Value(u"loadScreenCharacterBrush", loadScreenCharacterBrush);
-    io.BoundedList(u"fleetIconCount", fleetIcons, [&](BrushRef& icon) { io.Value(u"fleetIcon", icon); });
-    io.LabelledArray(kBrushLabels, brushes, [&](Label label, BrushRef& brush) { io.Value(label, brush); });
+    io.BoundedList(u"fleetIconCount", fleetIcons, io.Values(u"fleetIcon"));
+    io.LabelledArray(kBrushLabels, brushes, &FieldIo::Values);
 }
 
 } // namespace Vorn

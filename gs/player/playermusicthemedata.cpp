@@ -4,7 +4,7 @@ namespace Vorn {
 
 void PlayerMusicThemeData::Fields(FieldIo& io) {
     // All lists have the same key for their entries.
-    const auto theme = [&](SoundID& sound) { io.Value(u"musicTheme", sound); };
+    const auto theme = io.Values(u"musicTheme");
     io.GrowingList(u"startupMusicThemeCount", startupThemes, theme);
     io.GrowingList(u"neutralMusicThemeCount", neutralThemes, theme);
     io.GrowingList(u"scareThemeCount", scareThemes, theme);

@@ -13,7 +13,7 @@ constexpr Label kMeshNameLabels[] = {
 } // namespace
 
 void PlayerPlanetElevatorData::Fields(FieldIo& io) {
-    io.LabelledArray(kMeshNameLabels, meshNames, [&](Label label, FixedString<256>& name) { io.String(label, name); });
+    io.LabelledArray(kMeshNameLabels, meshNames, &FieldIo::Strings);
 }
 
 } // namespace Vorn

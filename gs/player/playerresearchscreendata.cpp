@@ -24,16 +24,15 @@ void PlayerResearchScreenData::BlockInfo::Fields(FieldIo& io) {
 }
 
 void PlayerResearchScreenData::FieldInfo::Fields(FieldIo& io) {
-    io.BoundedList(u"blockCount", blocks, [&](BlockInfo& block) { io.Record(u"block", block); });
+    io.BoundedList(u"blockCount", blocks, io.Records(u"block"));
 }
 
 void PlayerResearchScreenData::Fields(FieldIo& io) {
     for (int i = 0; i < kShownFieldCount; ++i) {
         io.Record(kResearchFieldRows[i], fields[i]);
     }
-    const auto picture = [&](Label label, BrushRef& brush) { io.Value(label, brush); };
-    io.LabelledArray(kCapitalShipSlotLabels, capitalShipSlotLevelPictures, picture);
-    io.LabelledArray(kShipSlotLabels, shipSlotLevelPictures, picture);
+    io.LabelledArray(kCapitalShipSlotLabels, capitalShipSlotLevelPictures, &FieldIo::Values);
+    io.LabelledArray(kShipSlotLabels, shipSlotLevelPictures, &FieldIo::Values);
 }
 
 } // namespace Vorn

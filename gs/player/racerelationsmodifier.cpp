@@ -13,8 +13,7 @@ void RaceRelationsModifier::Fields(FieldIo& io) {
     io.Context().players->TransferRace(io, u"raceNameID", race);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
-    io.SizedList(u"factionRelationsModCount", factionRelations,
-                 [&](FactionRelationsModifier& modifier) { io.Record(u"factionRelationsModifier", modifier); });
+    io.SizedList(u"factionRelationsModCount", factionRelations, io.Records(u"factionRelationsModifier"));
 }
 
 } // namespace Vorn

@@ -43,7 +43,7 @@ void IResearchSubjectDefinition::Fields(FieldIo& io) {
 }
 
 void IResearchSubjectDefinition::ModifierFields(FieldIo& io) {
-    const auto entry = [&](auto& modifier) { io.Record(u"researchModifier", modifier); };
+    const auto entry = io.Records(u"researchModifier");
     io.ReservedList(u"researchBoolModifiers", boolModifiers, entry);
     if (io.Reading()) {
         isVictory = std::ranges::any_of(boolModifiers, &ResearchBoolModifierTable::IsVictory);

@@ -2,9 +2,9 @@
 
 #include "engine/window/brushref.h"
 #include "gs/entity/support/price.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/research/researchboolmodifiertable.h"
 #include "gs/research/researchfloatmodifiertable.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

@@ -131,8 +131,8 @@ void Mesh::Data::Fields(FieldIo& io) {
     if (io.Reading()) {
         ComputeBoundingBox();
     }
-    SizedArray(io, u"NumMaterials", materials, [&](Material& material) { io.Record(u"Material", material); });
-    SizedArray(io, u"NumPoints", points, [&](Point& point) { io.Record(u"Point", point); });
+    SizedArray(io, u"NumMaterials", materials, io.Records(u"Material"));
+    SizedArray(io, u"NumPoints", points, io.Records(u"Point"));
     SizedArray(io, u"NumVertices", vertices,
                [&](Vertex& vertex) { PlainRecord<ArchivableVertex>(io, u"Vertex", vertex); });
     SizedArray(io, u"NumTriangles", triangles,

@@ -8,9 +8,7 @@ constexpr Label kSlotLabels[IAbilityContainerDef::kSlotCount] = {u"ability:0", u
 }
 
 void IAbilityContainerDef::Fields(FieldIo& io) {
-    for (int i = 0; i < kSlotCount; ++i) {
-        io.Value(kSlotLabels[i], abilities[i]);
-    }
+    io.LabelledArray(kSlotLabels, abilities, &FieldIo::Values);
 }
 
 } // namespace Vorn

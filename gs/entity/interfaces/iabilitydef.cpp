@@ -1,7 +1,7 @@
 #include "gs/entity/interfaces/iabilitydef.h"
 
-#include "engine/archive/archiveversion.h"
 #include "engine/archive/typerows.h"
+#include "gs/contentversions.h"
 #include "gs/entity/support/price.h"
 
 #include <algorithm>

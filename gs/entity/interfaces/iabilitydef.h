@@ -2,8 +2,8 @@
 
 #include "gs/entity/support/buffinstantaction.h"
 #include "gs/entity/support/researchenums.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/upgradeenums.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

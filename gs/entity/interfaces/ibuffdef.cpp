@@ -26,15 +26,12 @@ void IBuffDef::Fields(FieldIo& io) {
 }
 
 void IBuffDef::ListFields(FieldIo& io) {
-    io.GrowingList(u"numInstantActions", instantActions, [&](auto& action) { io.Record(u"instantAction", action); });
-    io.GrowingList(u"numPeriodicActions", periodicActions, [&](auto& action) { io.Record(u"periodicAction", action); });
-    io.GrowingList(u"numOverTimeActions", overTimeActions, [&](auto& action) { io.Record(u"overTimeAction", action); });
-    io.GrowingList(u"numEntityModifiers", entityModifiers,
-                   [&](auto& modifier) { io.Record(u"entityModifier", modifier); });
-    io.GrowingList(u"numEntityBoolModifiers", entityBoolModifiers,
-                   [&](auto& modifier) { io.Enum(u"entityBoolModifier", modifier); });
-    io.GrowingList(u"numFinishConditions", finishConditions,
-                   [&](auto& condition) { io.Record(u"finishCondition", condition); });
+    io.GrowingList(u"numInstantActions", instantActions, io.Records(u"instantAction"));
+    io.GrowingList(u"numPeriodicActions", periodicActions, io.Records(u"periodicAction"));
+    io.GrowingList(u"numOverTimeActions", overTimeActions, io.Records(u"overTimeAction"));
+    io.GrowingList(u"numEntityModifiers", entityModifiers, io.Records(u"entityModifier"));
+    io.GrowingList(u"numEntityBoolModifiers", entityBoolModifiers, io.Enums(u"entityBoolModifier"));
+    io.GrowingList(u"numFinishConditions", finishConditions, io.Records(u"finishCondition"));
 }
 
 void IBuffDef::ReportTooManyActions() const {

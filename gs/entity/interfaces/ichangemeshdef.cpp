@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void ChangeMeshFields::Fields(FieldIo& io) {
-    io.BoundedList(u"MeshNameInfoCount", meshNameInfos, [&](MeshNameInfo& info) { io.Record(u"MeshNameInfo", info); });
+    io.BoundedList(u"MeshNameInfoCount", meshNameInfos, io.Records(u"MeshNameInfo"));
     io.Value(u"meshNameIncreasedEffectName", meshNameIncreasedEffectName);
     io.Value(u"meshNameDecreasedEffectName", meshNameDecreasedEffectName);
     if (io.Reading()) {

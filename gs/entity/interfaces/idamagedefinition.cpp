@@ -8,8 +8,7 @@ namespace Vorn {
 void IDamageDefinition::Fields(FieldIo& io) {
     io.Uint(u"numRandomDebrisLarge", numRandomDebrisLarge);
     io.Uint(u"numRandomDebrisSmall", numRandomDebrisSmall);
-    io.BoundedList(u"numSpecificDebris", specificDebrisMeshNames,
-                   [&](FixedString<256>& name) { io.String(u"specificDebrisMeshName", name); });
+    io.BoundedList(u"numSpecificDebris", specificDebrisMeshNames, io.Strings(u"specificDebrisMeshName"));
     io.Enum(u"armorType", armorType);
     if (io.Reading() && io.Context().meshes != nullptr) {
         ReportMissingMeshes(*io.Context().meshes);

@@ -1,11 +1,11 @@
 #include "gs/entity/interfaces/ifrigatedefinition.h"
 
-#include "engine/archive/archiveversion.h"
+#include "gs/contentversions.h"
 
 namespace Vorn {
 
 void IFrigateDefinition::Fields(FieldIo& io) {
-    io.CappedList(u"typeCount", frigateRoleTypes, [&](FrigateRoleType& type) { io.Enum(u"frigateRoleType", type); });
+    io.CappedList(u"typeCount", frigateRoleTypes, io.Enums(u"frigateRoleType"));
     io.Enum(u"statCountType", statCountType);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);

@@ -1,6 +1,6 @@
 #include "gs/entity/interfaces/ihyperspacedefinition.h"
 
-#include "engine/archive/archiveversion.h"
+#include "gs/contentversions.h"
 
 namespace Vorn {
 

@@ -5,7 +5,7 @@
 #include "gs/entity/support/experiencelevelfloattable.h"
 #include "gs/entity/support/price.h"
 #include "gs/entity/support/researchenums.h"
-#include "gs/research/researchprerequisites.h"
+#include "gs/entity/support/researchprerequisites.h"
 
 namespace Vorn {
 

@@ -26,8 +26,8 @@ void IPlanetDefinition::SkyboxScalars::Fields(FieldIo& io) {
 
 void IPlanetDefinition::Fields(FieldIo& io) {
     // Both lists have the same key for their entries.
-    const auto bonus = [&](EntityDefName& name) { io.Value(u"bonus", name); };
-    io.BoundedList(u"meshInfoCount", meshInfo, [&](MeshInfo& info) { io.Record(u"meshInfo", info); });
+    const auto bonus = io.Values(u"bonus");
+    io.BoundedList(u"meshInfoCount", meshInfo, io.Records(u"meshInfo"));
     io.Float(u"minZoomDistanceMult", minZoomDistanceMult);
     io.Color(u"glowColor", glowColor);
     io.Color(u"ringColor", ringColor);
@@ -39,8 +39,7 @@ void IPlanetDefinition::Fields(FieldIo& io) {
     io.Float(u"ringsChance", ringsChance);
     io.Bool(u"isColonizable", isColonizable);
     io.Enum(u"planetTypeForResearch", planetTypeForResearch);
-    io.BoundedList(u"skyboxScalarsCount", skyboxScalars,
-                   [&](SkyboxScalars& scalars) { io.Record(u"skyboxScalars", scalars); });
+    io.BoundedList(u"skyboxScalarsCount", skyboxScalars, io.Records(u"skyboxScalars"));
     io.ReservedList(u"requiredPlanetBonusesCount", requiredPlanetBonuses, bonus);
     io.ReservedList(u"possibleRandomPlanetBonusesCount", possibleRandomPlanetBonuses, bonus);
     io.Value(u"ambienceSoundID", ambienceSoundID);

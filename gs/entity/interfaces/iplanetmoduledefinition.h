@@ -4,8 +4,8 @@
 #include "gs/entity/support/entitydefname.h"
 #include "gs/entity/support/price.h"
 #include "gs/entity/support/researchenums.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/sharedenums.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

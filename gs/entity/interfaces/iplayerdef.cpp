@@ -1,6 +1,6 @@
 #include "gs/entity/interfaces/iplayerdef.h"
 
-#include "engine/archive/archiveversion.h"
+#include "gs/contentversions.h"
 
 namespace Vorn {
 
@@ -15,11 +15,10 @@ void IPlayerDef::Fields(FieldIo& io) {
     io.Record(u"entities", entities);
     io.Block(data);
     io.Block(diplomacy);
-    io.BoundedList(u"numResearchFields", researchFields, [&](FixedString<256>& field) { io.String(u"field", field); });
+    io.BoundedList(u"numResearchFields", researchFields, io.Strings(u"field"));
     io.String(u"playerThemeGroupName", playerThemeGroupName);
     io.String(u"playerPictureGroupName", playerPictureGroupName);
-    io.SizedList(u"raceRelationsModCount", raceRelations,
-                 [&](RaceRelationsModifier& modifier) { io.Record(u"raceRelationsModifier", modifier); });
+    io.SizedList(u"raceRelationsModCount", raceRelations, io.Records(u"raceRelationsModifier"));
     io.Context().players->TransferFaction(io, u"defaultFactionNameID", defaultFaction);
 }
 

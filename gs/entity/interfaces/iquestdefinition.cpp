@@ -22,10 +22,8 @@ void IQuestDefinition::Fields(FieldIo& io) {
     io.Record(u"reward", reward);
     io.Record(u"priceDemanded", priceDemanded);
     io.Float(u"valueToKill", valueToKill);
-    io.BoundedList(u"numReceiverConstraints", receiverConstraints,
-                   [&](MinMax& constraint) { io.Record(u"ReceiverConstraint", constraint); });
-    io.BoundedList(u"numTargetConstraints", targetConstraints,
-                   [&](MinMax& constraint) { io.Record(u"TargetConstraint", constraint); });
+    io.BoundedList(u"numReceiverConstraints", receiverConstraints, io.Records(u"ReceiverConstraint"));
+    io.BoundedList(u"numTargetConstraints", targetConstraints, io.Records(u"TargetConstraint"));
     io.Float(u"weight", weight);
     if (io.Reading()) {
         CheckValues();

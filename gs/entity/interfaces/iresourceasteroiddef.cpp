@@ -7,7 +7,7 @@ void IResourceAsteroidDef::Fields(FieldIo& io) {
     io.Block(hud);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);
-    io.BoundedList(u"meshNameCount", meshNames, [&](FixedString<256>& name) { io.String(u"meshName", name); });
+    io.BoundedList(u"meshNameCount", meshNames, io.Strings(u"meshName"));
     io.String(u"nameStringID", nameStringID);
     io.String(u"descStringID", descStringID);
     io.Float(u"nearPlacementDistOffset", nearPlacementDistOffset);

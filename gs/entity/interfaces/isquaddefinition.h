@@ -4,7 +4,7 @@
 #include "engine/window/brushref.h"
 #include "gs/entity/support/entitydefname.h"
 #include "gs/entity/support/researchenums.h"
-#include "gs/research/researchprerequisites.h"
+#include "gs/entity/support/researchprerequisites.h"
 
 namespace Vorn {
 

@@ -10,7 +10,7 @@ void IStarBaseDef::Fields(FieldIo& io) {
     io.Enum(u"statCountType", statCountType);
     io.Value(u"creationSourceAbility", creationSourceAbility);
     io.Uint(u"maxUpgradeLevelCount", maxUpgradeLevelCount);
-    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, [&](EntityDefName& type) { io.Value(u"UpgradeType", type); });
+    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, io.Values(u"UpgradeType"));
 }
 
 } // namespace Vorn

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gs/entity/support/starbaseupgradestagedef.h"
+#include "gs/entity/interfaces/starbaseupgradestagedef.h"
 
 namespace Vorn {
 

@@ -9,7 +9,7 @@ void IStarDefinition::ColoredSkyboxInfo::Fields(FieldIo& io) {
 
 void IStarDefinition::Fields(FieldIo& io) {
     // Both lists have the same key for their entries.
-    const auto skybox = [&](ColoredSkyboxInfo& info) { io.Record(u"meshInfo", info); };
+    const auto skybox = io.Records(u"meshInfo");
     io.Color(u"coronaStartColor", coronaStartColor);
     io.Color(u"coronaEndColor", coronaEndColor);
     io.Float(u"coronaStartColorDistance", coronaStartColorDistance);

@@ -5,7 +5,7 @@ namespace Vorn {
 void ITitanDefinition::Fields(FieldIo& io) {
     ILargeShipDefinition::Fields(io);
     io.Enum(u"statCountType", statCountType);
-    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, [&](EntityDefName& type) { io.Value(u"UpgradeType", type); });
+    io.BoundedList(u"UpgradeTypeCount", upgradeTypes, io.Values(u"UpgradeType"));
 }
 
 } // namespace Vorn

@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void ITitanUpgradeDef::Fields(FieldIo& io) {
-    io.BoundedList(u"stageCount", stages, [&](TitanUpgradeStageDef& stage) { io.Record(u"stage", stage); });
+    io.BoundedList(u"stageCount", stages, io.Records(u"stage"));
     if (io.Reading()) {
         CheckAssert(stages.Size() > 0, "stages.Size() > 0");
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gs/entity/support/titanupgradestagedef.h"
+#include "gs/entity/interfaces/titanupgradestagedef.h"
 
 namespace Vorn {
 

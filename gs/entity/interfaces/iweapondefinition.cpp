@@ -10,9 +10,7 @@ constexpr Label kDamageLabels[kWeaponBankCount] = {u"DamagePerBank:FRONT", u"Dam
 void IWeaponDefinition::Fields(FieldIo& io) {
     io.Enum(u"WeaponType", weaponType);
     io.Record(u"damageEnums", damageEnums);
-    for (int i = 0; i < kWeaponBankCount; ++i) {
-        io.Float(kDamageLabels[i], damagePerBank[i]);
-    }
+    io.LabelledArray(kDamageLabels, damagePerBank, &FieldIo::Floats);
     io.Float(u"Range", range);
     io.Float(u"PreBuffCooldownTime", preBuffCooldownTime);
     io.Bool(u"CanFireAtFighter", canFireAtFighter);

@@ -3,8 +3,8 @@
 #include "engine/archive/record.h"
 #include "engine/datastructures/fixedarray.h"
 #include "gs/entity/support/damageinfoenums.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/weaponeffectsdef.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

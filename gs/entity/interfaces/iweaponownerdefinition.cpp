@@ -8,7 +8,7 @@ constexpr Label kTargetCountLabels[kWeaponBankCount] = {u"TargetCountPerBank:FRO
 }
 
 void IWeaponOwnerDefinition::Fields(FieldIo& io) {
-    io.BoundedList(u"NumWeapons", weapons, [&](IWeaponDefinition& weapon) { io.Record(u"Weapon", weapon); });
+    io.BoundedList(u"NumWeapons", weapons, io.Records(u"Weapon"));
     io.Uint(u"m_weaponIndexForRange", weaponIndexForRange);
     io.Enum(u"firingAlignmentType", firingAlignmentType);
     if (io.Reading()) {
@@ -18,9 +18,7 @@ void IWeaponOwnerDefinition::Fields(FieldIo& io) {
     if (firingAlignmentType == FiringAlignmentType::TiltForward) {
         io.Degrees(u"firingTiltAngle", firingTiltAngle);
     }
-    for (int i = 0; i < kWeaponBankCount; ++i) {
-        io.Uint(kTargetCountLabels[i], targetCountPerBank[i]);
-    }
+    io.LabelledArray(kTargetCountLabels, targetCountPerBank, &FieldIo::Uints);
     io.Bool(u"canOnlyTargetStructures", canOnlyTargetStructures);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "gs/entity/support/buffinstantaction.h"
-#include "gs/research/researchprerequisites.h"
+#include "gs/entity/support/researchprerequisites.h"
 
 namespace Vorn {
 

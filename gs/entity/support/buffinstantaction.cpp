@@ -1,7 +1,7 @@
 #include "gs/entity/support/buffinstantaction.h"
 
-#include "engine/archive/archiveversion.h"
 #include "engine/archive/typerows.h"
+#include "gs/contentversions.h"
 
 namespace Vorn {
 
@@ -143,7 +143,7 @@ constexpr Step kDelayBetweenEffects = [](FieldIo& io, Values& v) {
     io.Float(u"delayBetweenEffects", v.delayBetweenEffects);
 };
 constexpr Step kSpawnShips = [](FieldIo& io, Values& v) {
-    io.GrowingList(u"spawnShipsLevelCount", v.spawnShips, [&](auto& ships) { io.Record(u"spawnShips", ships); });
+    io.GrowingList(u"spawnShipsLevelCount", v.spawnShips, io.Records(u"spawnShips"));
 };
 constexpr Step kSpawnShipsArrivalDelayTime = [](FieldIo& io, Values& v) {
     io.Float(u"spawnShipsArrivalDelayTime", v.spawnShipsArrivalDelayTime);
@@ -371,8 +371,7 @@ void BuffInstantAction::TriggerFields(FieldIo& io) {
         io.Block(*condition);
         break;
     case InstantActionTriggerType::OnWeaponFired:
-        io.GrowingList(u"numWeaponClasses", weaponClassesForWeaponPassive,
-                       [&](auto& weaponClass) { io.Enum(u"weaponClassForWeaponPassive", weaponClass); });
+        io.GrowingList(u"numWeaponClasses", weaponClassesForWeaponPassive, io.Enums(u"weaponClassForWeaponPassive"));
         io.Record(u"passiveWeaponEffectChance", passiveWeaponEffectChance);
         break;
     case InstantActionTriggerType::Invalid:

@@ -9,9 +9,7 @@ constexpr Label kLevelLabels[BuffLevelFloatTable::kLevelCount] = {u"Level:0", u"
 }
 
 void BuffLevelFloatTable::Fields(FieldIo& io) {
-    for (int i = 0; i < kLevelCount; ++i) {
-        io.Float(kLevelLabels[i], values[i]);
-    }
+    io.LabelledArray(kLevelLabels, values, &FieldIo::Floats);
 }
 
 void LevelFloat(FieldIo& io, Label label, BuffLevelFloatTable& table, bool hasLevels) {

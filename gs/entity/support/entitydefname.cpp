@@ -15,7 +15,7 @@ void EntityDefName::Write(Label label, Archive& archive) const {
 }
 
 void EntityDefNameDynamicVector::Fields(FieldIo& io) {
-    io.GrowingList(u"count", names, [&](EntityDefName& name) { io.Value(u"entityDefName", name); });
+    io.GrowingList(u"count", names, io.Values(u"entityDefName"));
 }
 
 } // namespace Vorn

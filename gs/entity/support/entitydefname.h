@@ -44,9 +44,7 @@ private:
 template <int N>
 class GroupedEntityDefNames : public Record {
 public:
-    void Fields(FieldIo& io) override {
-        io.CappedList(u"count", names, [&](EntityDefName& name) { io.Value(u"entityDefName", name); });
-    }
+    void Fields(FieldIo& io) override { io.CappedList(u"count", names, io.Values(u"entityDefName")); }
 
 private:
     FixedVector<EntityDefName, N> names;

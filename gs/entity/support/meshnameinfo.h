@@ -1,9 +1,9 @@
 #pragma once
 
 #include "engine/archive/record.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/sharedenums.h"
 #include "gs/entity/support/starbaselevelrequirements.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

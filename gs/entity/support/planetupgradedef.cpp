@@ -82,7 +82,7 @@ PlanetUpgradeDef::PlanetUpgradeDef() {
 }
 
 void PlanetUpgradeDef::Fields(FieldIo& io) {
-    io.LabelledArray(kPathLabels, paths, [&](Label label, PlanetUpgradePathDef& path) { io.Record(label, path); });
+    io.LabelledArray(kPathLabels, paths, &FieldIo::Records);
 }
 
 } // namespace Vorn

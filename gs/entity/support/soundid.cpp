@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void SoundIDVector::Fields(FieldIo& io) {
-    io.GrowingList(u"soundCount", sounds, [&](SoundID& sound) { io.Value(u"sound", sound); });
+    io.GrowingList(u"soundCount", sounds, io.Values(u"sound"));
 }
 
 } // namespace Vorn

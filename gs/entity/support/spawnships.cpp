@@ -14,10 +14,8 @@ void SpawnShipsRandomEntity::Fields(FieldIo& io) {
 }
 
 void SpawnShips::Fields(FieldIo& io) {
-    io.BoundedList(u"requiredShipCount", requiredShips,
-                   [&](SpawnShipsRequiredEntity& ship) { io.Record(u"requiredShip", ship); });
-    io.BoundedList(u"randomShipCount", randomShips,
-                   [&](SpawnShipsRandomEntity& ship) { io.Record(u"randomShip", ship); });
+    io.BoundedList(u"requiredShipCount", requiredShips, io.Records(u"requiredShip"));
+    io.BoundedList(u"randomShipCount", randomShips, io.Records(u"randomShip"));
 }
 
 void SpawnShipsWithInternalFleetPoints::Fields(FieldIo& io) {

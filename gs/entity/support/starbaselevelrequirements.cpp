@@ -8,8 +8,7 @@ void StarBaseLevelRequirements::StarBaseLevelRequirement::Fields(FieldIo& io) {
 }
 
 void StarBaseLevelRequirements::Fields(FieldIo& io) {
-    io.BoundedList(u"levelRequirementCount", levelRequirements,
-                   [&](StarBaseLevelRequirement& requirement) { io.Record(u"levelRequirement", requirement); });
+    io.BoundedList(u"levelRequirementCount", levelRequirements, io.Records(u"levelRequirement"));
 }
 
 } // namespace Vorn

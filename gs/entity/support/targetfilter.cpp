@@ -3,10 +3,10 @@
 namespace Vorn {
 
 void TargetFilter::Fields(FieldIo& io) {
-    io.CappedList(u"numOwnerships", ownerships, [&](auto& ownership) { io.Enum(u"ownership", ownership); });
-    io.CappedList(u"numObjects", objects, [&](auto& object) { io.Enum(u"object", object); });
-    io.CappedList(u"numSpaces", spaces, [&](auto& space) { io.Enum(u"space", space); });
-    io.CappedList(u"numConstraints", constraints, [&](auto& constraint) { io.Enum(u"constraint", constraint); });
+    io.CappedList(u"numOwnerships", ownerships, io.Enums(u"ownership"));
+    io.CappedList(u"numObjects", objects, io.Enums(u"object"));
+    io.CappedList(u"numSpaces", spaces, io.Enums(u"space"));
+    io.CappedList(u"numConstraints", constraints, io.Enums(u"constraint"));
     if (io.Reading()) {
         CheckAssert(objects.Size() > 0, "objects.Size() > 0");
     }

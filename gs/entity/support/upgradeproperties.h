@@ -16,7 +16,7 @@ struct UpgradeProperties : Record {
     FixedArray<Bool, kEnumTable<FlagType>.rowCount> flags;
 
     void Fields(FieldIo& io) override {
-        Listed<Value>(io, u"upgradePropertyCount", values, [&](Value& entry) { io.Record(u"upgradeProperty", entry); });
+        Listed<Value>(io, u"upgradePropertyCount", values, io.Records(u"upgradeProperty"));
         Listed<Flag>(io, u"upgradeBoolPropertyCount", flags,
                      [&](Flag& entry) { io.Enum(u"upgradeBoolProperty", entry.propertyType); });
     }

@@ -34,8 +34,8 @@ void PlanetBonusDef::Fields(FieldIo& io) {
     io.Uint(u"maxUpgradeLevelNeeded", maxUpgradeLevelNeeded);
     io.String(u"nameStringID", nameStringID);
     io.String(u"descStringID", descStringID);
-    io.LabelledArray(kFloatBonusLabels, floatBonuses, [&](Label label, float& bonus) { io.Float(label, bonus); });
-    io.LabelledArray(kIntBonusLabels, intBonuses, [&](Label label, std::uint32_t& bonus) { io.Uint(label, bonus); });
+    io.LabelledArray(kFloatBonusLabels, floatBonuses, &FieldIo::Floats);
+    io.LabelledArray(kIntBonusLabels, intBonuses, &FieldIo::Uints);
     io.Int(u"dlcId", dlcId);
     io.Block(hud);
     if (io.Reading()) {

@@ -1,4 +1,4 @@
-#include "gs/entity/support/titanupgradestagedef.h"
+#include "gs/entity/interfaces/titanupgradestagedef.h"
 
 namespace Vorn {
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "gs/entity/interfaces/ihuddefinition.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/upgradeenums.h"
 #include "gs/entity/support/upgradeproperties.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

@@ -1,4 +1,4 @@
-#include "gs/research/researchprerequisites.h"
+#include "gs/entity/support/researchprerequisites.h"
 
 #include <algorithm>
 
@@ -10,8 +10,7 @@ void ResearchPrerequisite::Fields(FieldIo& io) {
 }
 
 void ResearchPrerequisites::Fields(FieldIo& io) {
-    io.BoundedList(u"NumResearchPrerequisites", prerequisites,
-                   [&](ResearchPrerequisite& prerequisite) { io.Record(u"ResearchPrerequisite", prerequisite); });
+    io.BoundedList(u"NumResearchPrerequisites", prerequisites, io.Records(u"ResearchPrerequisite"));
     io.Context().players->factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
     io.Uint(u"RequiredCompletedResearchSubjects", requiredCompletedResearchSubjects);
 }

@@ -2,9 +2,9 @@
 
 #include "gs/entity/interfaces/ihuddefinition.h"
 #include "gs/entity/support/price.h"
+#include "gs/entity/support/researchprerequisites.h"
 #include "gs/entity/support/upgradeenums.h"
 #include "gs/entity/support/upgradeproperties.h"
-#include "gs/research/researchprerequisites.h"
 
 namespace Vorn {
 

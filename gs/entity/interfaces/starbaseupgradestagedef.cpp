@@ -1,4 +1,4 @@
-#include "gs/entity/support/starbaseupgradestagedef.h"
+#include "gs/entity/interfaces/starbaseupgradestagedef.h"
 
 namespace Vorn {
 

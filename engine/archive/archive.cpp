@@ -17,4 +17,8 @@ void Archive::SetVersion(std::int32_t _version) {
     version = _version;
 }
 
+void CheckElementCount(std::int32_t elementCount, std::int32_t arraySize) {
+    CheckAssert(elementCount == arraySize, "elementCount == data->Size()");
+}
+
 } // namespace Vorn

@@ -113,4 +113,7 @@ private:
     FieldObserver* observer = nullptr;
 };
 
+// The check of a stored list that must have exactly as many elements as its array.
+void CheckElementCount(std::int32_t elementCount, std::int32_t arraySize);
+
 } // namespace Vorn

@@ -42,7 +42,8 @@ std::string WithoutPositions(std::string_view text) {
     return result;
 }
 
-[[noreturn]] void BecomeConverter(const std::vector<std::string>& arguments, const char* folder, Tracing tracing) {
+[[noreturn]] void BecomeConverter(const std::vector<std::string>& arguments, const char* folder, Tracing tracing,
+                                  void (*prepare)()) {
     std::vector<char*> argv = {const_cast<char*>(KELVANE_EXECUTABLE)};
     for (const std::string& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
@@ -55,6 +56,9 @@ std::string WithoutPositions(std::string_view text) {
         // The leak check cannot run in a traced process.
         setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
         ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    }
+    if (prepare != nullptr) {
+        prepare();
     }
     if (chdir(folder) == 0) {
         execv(KELVANE_EXECUTABLE, argv.data());
@@ -79,7 +83,7 @@ bool ProcessResult::EndedAbnormally() const {
 }
 
 ProcessResult RunConverter(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
-                           Tracing tracing) {
+                           Tracing tracing, void (*prepare)()) {
     const Stream output = MakeStream();
     const Stream reports = MakeStream();
     const std::string folderName = folder.string();
@@ -87,7 +91,7 @@ ProcessResult RunConverter(const std::vector<std::string>& arguments, const std:
     if (child == 0) {
         dup2(fileno(output.get()), STDOUT_FILENO);
         dup2(fileno(reports.get()), STDERR_FILENO);
-        BecomeConverter(arguments, folderName.c_str(), tracing);
+        BecomeConverter(arguments, folderName.c_str(), tracing, prepare);
     }
     const int status = WaitFor(child);
     ProcessResult result;

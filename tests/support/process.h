@@ -21,9 +21,9 @@ struct ProcessResult {
 enum class Tracing { Off, On };
 
 // Runs the built converter in `folder` with the arguments given, for a minute at most. With tracing a debugger is
-// attached to it all the time.
+// attached to it all the time. `prepare` runs in the new process, right before it becomes the converter.
 ProcessResult RunConverter(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
-                           Tracing tracing = Tracing::Off);
+                           Tracing tracing = Tracing::Off, void (*prepare)() = nullptr);
 
 // The conversion type of a folder of contents: an engine type by its own name, else an entity.
 std::string ConversionTypeOf(const std::string& kind);

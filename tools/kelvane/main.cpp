@@ -6,6 +6,11 @@
 #include <new>
 #include <vector>
 
+#ifndef _WIN32
+#include <cerrno>
+#include <fcntl.h>
+#endif
+
 namespace {
 
 int Run(const std::vector<std::u16string>& arguments) {
@@ -27,9 +32,26 @@ int wmain(int argc, wchar_t** argv) {
 
 #else
 
+namespace {
+
+// Without this a file would be opened on the number of a closed standard stream, and reports would go into it.
+void OpenClosedStreams() {
+    for (int stream = 0; stream <= 2; ++stream) {
+        if (fcntl(stream, F_GETFD) == -1 && errno == EBADF) {
+            // The lowest free number is the stream's.
+            open("/dev/null", O_RDWR);
+        }
+    }
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
-    // A reader of the reports that goes away must not stop a conversion.
+    OpenClosedStreams();
+    // A reader of the reports that goes away must not stop a conversion, and a write beyond the limit of file sizes
+    // fails like one to a full disk.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     std::vector<std::u16string> arguments;
     for (int i = 1; i < argc; ++i) {
         arguments.push_back(Vorn::NameFromBytes(argv[i]));

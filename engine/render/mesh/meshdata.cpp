@@ -3,8 +3,6 @@
 #include "engine/render/mesh/cachedvertexindices.h"
 
 #include <algorithm>
-#include <cmath>
-#include <iterator>
 
 namespace Vorn {
 
@@ -40,34 +38,6 @@ void PlainRecord(FieldIo& io, Label label, T& element) {
     }
 }
 
-float SquaredLength(const Vector3& v) {
-    return v.x * v.x + v.y * v.y + v.z * v.z;
-}
-
-// Written so that not a number is outside.
-bool IsWithin(float value, float tolerance) {
-    return std::fabs(value - 1.0f) <= tolerance;
-}
-
-bool IsUnitDeterminant(float determinant) {
-    return IsWithin(std::clamp(determinant, -1.0f, 1.0f), 0.01f);
-}
-
-bool IsLeftHandAndNormalized(const Matrix33& m) {
-    const Vector3 a = m.Row(0);
-    const Vector3 b = m.Row(1);
-    const Vector3 c = m.Row(2);
-    for (const Vector3& row : {a, b, c}) {
-        if (!IsWithin(SquaredLength(row), 0.2f)) {
-            return false;
-        }
-    }
-    const float byRow = a.x * (b.y * c.z - b.z * c.y) - a.y * (b.x * c.z - b.z * c.x) + a.z * (b.x * c.y - b.y * c.x);
-    const float byColumn =
-        a.x * (b.y * c.z - b.z * c.y) - b.x * (a.y * c.z - a.z * c.y) + c.x * (a.y * b.z - a.z * b.y);
-    return IsUnitDeterminant(byRow) && IsUnitDeterminant(byColumn);
-}
-
 } // namespace
 
 void Mesh::ArchivableVertex::Fields(FieldIo& io) {
@@ -87,23 +57,6 @@ void Mesh::ArchivableTriangle::Fields(FieldIo& io) {
     io.Uint(u"iVertex1", iVertex1);
     io.Uint(u"iVertex2", iVertex2);
     io.Uint(u"iMaterial", iMaterial);
-}
-
-Mesh::Point Mesh::Point::Default() {
-    Point point;
-    for (int i = 0; i < 3; ++i) {
-        point.orientation(i, i) = 1.0f;
-    }
-    return point;
-}
-
-void Mesh::Point::Fields(FieldIo& io) {
-    io.String(u"DataString", name);
-    io.Vector3(u"Position", position);
-    io.Matrix33(u"Orientation", orientation);
-    if (io.Reading()) {
-        CheckAssert(IsLeftHandAndNormalized(orientation), "m_Orientation.IsLeftHandAndNormalized()");
-    }
 }
 
 void Mesh::Material::Fields(FieldIo& io) {

@@ -94,7 +94,7 @@ void ParticleEmitter::AppearanceFields(FieldIo& io) {
 void ParticleEmitter::TextureFields(FieldIo& io) {
     const std::int32_t elementCount =
         io.Count({u"numTextures", ListRule::Exact, textureNames.Size()}, textureNames.Size());
-    CheckAssert(elementCount == textureNames.Size(), "elementCount == data->Size()");
+    CheckElementCount(elementCount, textureNames.Size());
     io.ReadEntries(elementCount, [&](std::int32_t i) { io.String(u"textureName", textureNames[i]); });
     io.String(u"textureAnimationName", textureAnimationName);
     io.Enum(u"textureAnimationSpawnType", textureAnimationSpawnType);

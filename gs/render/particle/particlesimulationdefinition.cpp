@@ -9,14 +9,16 @@ namespace {
 
 constexpr std::int32_t kNoCount = -1;
 
-// Ends the process for a part that the effect cannot hold: null, for a type without a class, or one too many.
+// Ends the process for a part that the effect cannot hold: null, for a type without a class, or one too many. A part
+// may be both, and fires both checks.
 template <class Part, int N>
 Part& AppendPart(FixedVector<std::unique_ptr<Part>, N>& parts, std::unique_ptr<Part> part) {
     CheckAssert(part != nullptr, "false");
+    std::unique_ptr<Part>& place = AppendOrEnd(parts);
     if (part == nullptr) {
         EndAbnormally();
     }
-    return *(AppendOrEnd(parts) = std::move(part));
+    return *(place = std::move(part));
 }
 
 struct PartLabels {

@@ -1,7 +1,10 @@
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace Vorn {
 
@@ -168,6 +171,30 @@ TEST_F(DriverTest, SaveGamesAreStamped) {
     }
     ExpectReports({"saveGame", "save", "save"}, "");
     EXPECT_EQ(Get("save"), "");
+}
+
+TEST_F(DriverTest, FilesStayOffClosedStreams) {
+    Run({"brushes", "damaged.brushes", "dest"});
+    Put("closed", "");
+    const ProcessResult result =
+        RunConverter({"brushes", "damaged.brushes", "closed"}, folder.Path(), Tracing::Off, [] {
+            for (const int stream : {0, 1, 2}) {
+                close(stream);
+            }
+        });
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Get("closed"), Get("dest"));
+}
+
+TEST_F(DriverTest, ALimitOfFileSizesIsLikeAFullDisk) {
+    const ProcessResult result = RunConverter({"brushes", "empty.brushes", "dest"}, folder.Path(), Tracing::Off, [] {
+        const rlimit tenBytes = {10, 10};
+        setrlimit(RLIMIT_FSIZE, &tenBytes);
+        // The limit holds for standard error too, which is a file here.
+        dup2(open("/dev/null", O_WRONLY), 2);
+    });
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Get("dest"), kEmptyBinary.substr(0, 10));
 }
 
 TEST_F(DriverTest, DebuggersSilenceChecksOnly) {

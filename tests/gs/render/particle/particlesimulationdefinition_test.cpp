@@ -1,5 +1,6 @@
 #include "gs/render/particle/particlesimulationdefinition.h"
 
+#include "engine/core/abnormalend.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {
@@ -65,6 +66,32 @@ TEST_F(ParticleSimulationDefinitionTest, AnchorsChooseTheQuad) {
     emitter.SetBillboardAnchor(9);
     expectQuad(0.0f, 0.0f, 0.0f, 0.0f);
     EXPECT_EQ(TakeReports(), Reports{Check("false")});
+}
+
+// Stands for the end of the process.
+struct End {};
+
+class CaughtEnd final : public EndGuard {
+public:
+    void BeforeAbnormalEnd() override { throw End(); }
+};
+
+TEST_F(ParticleSimulationDefinitionTest, APartTooManyWithoutAClassFiresBothChecks) {
+    const CaughtEnd caughtEnd;
+    EXPECT_THROW(definition.AddEmitter(ParticleEmitter::Type::Invalid), End);
+    EXPECT_THROW(definition.AddAffector(ParticleAffector::Type::Invalid), End);
+    EXPECT_EQ(TakeReports(), Reports({Check("false"), Check("false")}));
+    definition.Clear();
+    for (int i = 0; i < ParticleSimulationDefinition::kMaxEmitters; ++i) {
+        definition.AddEmitter(kPoint);
+    }
+    for (int i = 0; i < ParticleSimulationDefinition::kMaxAffectors; ++i) {
+        definition.AddAffector(kDrag);
+    }
+    EXPECT_THROW(definition.AddEmitter(ParticleEmitter::Type::Invalid), End);
+    EXPECT_THROW(definition.AddAffector(ParticleAffector::Type::Invalid), End);
+    const std::string full = Check("m_CurrentSize < MAX_SIZE");
+    EXPECT_EQ(TakeReports(), Reports({Check("false"), full, Check("false"), full}));
 }
 
 TEST_F(ParticleSimulationDefinitionTest, IsNamedAfterAFile) {

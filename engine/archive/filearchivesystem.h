@@ -55,4 +55,21 @@ private:
     std::int32_t fileArchiveCount = 0;
 };
 
+// An archive that is given back at the end of its scope, also when an exception leaves it. Null gives nothing back.
+class ScopedArchive {
+public:
+    ScopedArchive(FileArchiveSystem& _archives, FileArchive* _archive) : archives(_archives), archive(_archive) {}
+    ScopedArchive(const ScopedArchive&) = delete;
+    ScopedArchive& operator=(const ScopedArchive&) = delete;
+    ~ScopedArchive() { archives.Close(archive); }
+
+    explicit operator bool() const { return archive != nullptr; }
+    FileArchive& operator*() const { return *archive; }
+    FileArchive* operator->() const { return archive; }
+
+private:
+    FileArchiveSystem& archives;
+    FileArchive* archive;
+};
+
 } // namespace Vorn

@@ -23,7 +23,7 @@ VersionedFileArchive::VersionedFileArchive(FileArchiveSystem& _archives, std::u1
 }
 
 void VersionedFileArchive::Open() {
-    if (!FileSystem::Exists(fileName.View())) {
+    if (!IsExistingFile(fileName.View())) {
         LogLine(u"%s not found... New Version being created.\n", fileName);
         WriteNewFile();
     }

@@ -12,7 +12,7 @@ namespace Vorn {
 // Owner of the engine's systems. Records reach what they need of them through the context of their archive.
 class Core {
 public:
-    Core() = default;
+    explicit Core(FileStore& files = NativeFiles()) : fileSystem(files) {}
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
 

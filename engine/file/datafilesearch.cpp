@@ -25,9 +25,11 @@ bool IsTooLong(std::u16string_view path) {
     return path.size() >= static_cast<std::size_t>(DataPath::kCapacity);
 }
 
-bool FindInFolder(DataPath& result, std::u16string_view folder, std::u16string_view fileName) {
+} // namespace
+
+bool FileSystem::FindInFolder(DataPath& result, std::u16string_view folder, std::u16string_view fileName) const {
     const std::u16string candidate = JoinPath(folder, fileName);
-    if (IsTooLong(candidate) || !FileSystem::Exists(candidate)) {
+    if (IsTooLong(candidate) || !Exists(candidate)) {
         return false;
     }
     result.Assign(candidate);
@@ -35,7 +37,7 @@ bool FindInFolder(DataPath& result, std::u16string_view folder, std::u16string_v
 }
 
 // Below a folder whose candidate is too long every candidate is, so the depth is bounded.
-bool FindInTree(DataPath& result, std::u16string_view folder, std::u16string_view fileName) {
+bool FileSystem::FindInTree(DataPath& result, std::u16string_view folder, std::u16string_view fileName) const {
     if (FindInFolder(result, folder, fileName)) {
         return true;
     }
@@ -47,8 +49,6 @@ bool FindInTree(DataPath& result, std::u16string_view folder, std::u16string_vie
         return FindInTree(result, JoinPath(folder, subfolder), fileName);
     });
 }
-
-} // namespace
 
 bool FileSystem::FindDataFile(DataPath& result, std::u16string_view fileName, std::u16string_view subPath,
                               bool useModFolders, bool reportFailure) const {

@@ -40,18 +40,19 @@ char* EncodeLines(char* out, std::u16string_view text) {
 
 } // namespace
 
-bool File::Open(std::u16string_view fullName) {
-    if (!stream.Open(fullName, access)) {
+bool File::Open(FileStore& store, std::u16string_view fullName) {
+    stream = store.Open(fullName, access);
+    if (stream == nullptr) {
         return false;
     }
     if (access == FileAccess::Read) {
-        input.Open();
+        input.Open(*stream);
         input.Ensure(1);
-        if (input.HasFailed() && stream.IsDirectory()) {
+        if (input.HasFailed() && stream->IsDirectory()) {
             return false;
         }
     } else {
-        output.Open();
+        output.Open(*stream);
         if (translation == FileTranslation::Text) {
             output.Put(kUtf8Mark.data(), kUtf8Mark.size());
         }

@@ -119,19 +119,19 @@ private:
     File& operator=(const File&) = delete;
     ~File() = default;
 
-    bool Open(std::u16string_view fullName);
+    bool Open(FileStore& store, std::u16string_view fullName);
     bool Flush() { return output.Flush(); }
     bool PutText(std::u16string_view text);
 
     // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
     static constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
 
-    NativeFile stream;
+    std::unique_ptr<ByteStream> stream;
     FileAccess access;
     FileTranslation translation;
-    ReadBuffer input{stream};
+    ReadBuffer input;
     LineReader lines{input};
-    WriteBuffer output{stream};
+    WriteBuffer output;
     // More than there ever is where no text belongs.
     std::size_t plainLineRoom = translation == FileTranslation::Text ? kTabs.size() + kLineRoom : SIZE_MAX / 2;
     FixedString<kNameCapacity> name;

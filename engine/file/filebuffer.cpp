@@ -4,7 +4,8 @@
 
 namespace Vorn {
 
-void ReadBuffer::Open() {
+void ReadBuffer::Open(ByteStream& _file) {
+    file = &_file;
     block = std::make_unique_for_overwrite<unsigned char[]>(kFileBlock + kSlack);
     block[0] = 0;
     cursor = end = block.get();
@@ -20,7 +21,7 @@ bool ReadBuffer::Fill(std::size_t count) {
     cursor = block.get();
     std::size_t filled = kept;
     while (filled < count && !ended) {
-        const std::ptrdiff_t result = file.Read(block.get() + filled, std::min(nextRead, kFileBlock - filled));
+        const std::ptrdiff_t result = file->Read(block.get() + filled, std::min(nextRead, kFileBlock - filled));
         nextRead = kFileBlock;
         failed = result < 0;
         ended = result <= 0;
@@ -42,7 +43,8 @@ std::size_t ReadBuffer::Take(void* bytes, std::size_t count) {
     return taken;
 }
 
-void WriteBuffer::Open() {
+void WriteBuffer::Open(ByteStream& _file) {
+    file = &_file;
     block = std::make_unique_for_overwrite<char[]>(kFileBlock);
     cursor = block.get();
     end = cursor + kFileBlock;
@@ -51,7 +53,7 @@ void WriteBuffer::Open() {
 bool WriteBuffer::Flush() {
     const auto count = static_cast<std::size_t>(cursor - block.get());
     cursor = block.get();
-    return !IsOpen() || file.Write(block.get(), count);
+    return !IsOpen() || file->Write(block.get(), count);
 }
 
 bool WriteBuffer::PutLarge(const void* bytes, std::size_t count) {
@@ -61,7 +63,7 @@ bool WriteBuffer::PutLarge(const void* bytes, std::size_t count) {
     bool written = count <= Room() || Flush();
     const auto* part = static_cast<const char*>(bytes);
     for (; count > kFileBlock; part += kFileBlock, count -= kFileBlock) {
-        written = file.Write(part, kFileBlock) && written;
+        written = file->Write(part, kFileBlock) && written;
     }
     std::memcpy(cursor, part, count);
     cursor += count;

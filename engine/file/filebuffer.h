@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/file/nativefile.h"
+#include "engine/file/filestore.h"
 
 #include <cstring>
 #include <memory>
@@ -16,9 +16,7 @@ public:
     // Bytes that may be looked at behind the last one; the first of them is 0.
     static constexpr std::size_t kSlack = 96;
 
-    explicit ReadBuffer(NativeFile& _file) : file(_file) {}
-
-    void Open();
+    void Open(ByteStream& _file);
 
     std::size_t Available() const { return static_cast<std::size_t>(end - cursor); }
     const unsigned char* Cursor() const { return cursor; }
@@ -39,7 +37,7 @@ private:
 
     static constexpr unsigned char kNothing[kSlack] = {};
 
-    NativeFile& file;
+    ByteStream* file = nullptr;
     std::unique_ptr<unsigned char[]> block;
     const unsigned char* cursor = kNothing;
     const unsigned char* end = kNothing;
@@ -54,9 +52,7 @@ private:
 // The buffered bytes of a file that is written. Unless it is opened there is no room and every write fails.
 class WriteBuffer {
 public:
-    explicit WriteBuffer(NativeFile& _file) : file(_file) {}
-
-    void Open();
+    void Open(ByteStream& _file);
     bool IsOpen() const { return block != nullptr; }
 
     // False if a block could not be written; its bytes are lost then.
@@ -84,7 +80,7 @@ public:
 private:
     bool PutLarge(const void* bytes, std::size_t count);
 
-    NativeFile& file;
+    ByteStream* file = nullptr;
     std::unique_ptr<char[]> block;
     char* cursor = nullptr;
     char* end = nullptr;

@@ -16,7 +16,7 @@ File* FileSystem::Open(std::u16string_view name, FileAccess access, FileTranslat
     CheckAssert(access == FileAccess::Read || access == FileAccess::Write, "false");
     CheckAssert(translation == FileTranslation::Text || translation == FileTranslation::Binary, "false");
     File* file = new File(access, translation);
-    if (!file->Open(name)) {
+    if (!file->Open(store, name)) {
         ReportError(u"Failed to Open File: '%s'\n", name);
         delete file;
         return nullptr;
@@ -30,13 +30,9 @@ void FileSystem::Close(File* file) {
         EndAbnormally();
     }
     const bool flushed = file->Flush();
-    CheckAssert(file->stream.Close() && flushed, "closeResult == 0");
+    CheckAssert(file->stream->Close() && flushed, "closeResult == 0");
     openFiles.RemoveAt(static_cast<int>(std::find(openFiles.begin(), openFiles.end(), file) - openFiles.begin()));
     delete file;
-}
-
-bool FileSystem::Exists(std::u16string_view name) {
-    return IsExistingFile(name);
 }
 
 void FileSystem::BeforeAbnormalEnd() {

@@ -3,6 +3,7 @@
 #include "engine/core/abnormalend.h"
 #include "engine/datastructures/dynamicvector.h"
 #include "engine/file/file.h"
+#include "engine/file/nativefile.h"
 
 namespace Vorn {
 
@@ -13,7 +14,7 @@ using DataPath = FixedString<260>;
 // to them reaches the platform.
 class FileSystem final : public EndGuard {
 public:
-    FileSystem() = default;
+    explicit FileSystem(FileStore& _store = NativeFiles()) : store(_store) {}
     FileSystem(const FileSystem&) = delete;
     FileSystem& operator=(const FileSystem&) = delete;
     ~FileSystem();
@@ -25,7 +26,7 @@ public:
     void Close(File* file);
 
     // Whether a file of that name exists; a directory is none.
-    static bool Exists(std::u16string_view name);
+    bool Exists(std::u16string_view name) const { return store.Exists(name); }
 
     // Registers a folder that data files are looked for in. Mod folders come before all others.
     void AddModFolder(std::u16string_view folder) { modFolders.Append().Assign(folder); }
@@ -42,6 +43,10 @@ public:
     void BeforeAbnormalEnd() override;
 
 private:
+    bool FindInFolder(DataPath& result, std::u16string_view folder, std::u16string_view fileName) const;
+    bool FindInTree(DataPath& result, std::u16string_view folder, std::u16string_view fileName) const;
+
+    FileStore& store;
     DynamicVector<File*> openFiles;
     DynamicVector<DataPath> modFolders;
     DynamicVector<DataPath> dataFolders;

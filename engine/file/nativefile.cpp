@@ -125,6 +125,16 @@ void ForEachSubfolder(std::u16string_view folder, Take take) {
 
 #endif
 
+class NativeFileStore final : public FileStore {
+public:
+    std::unique_ptr<ByteStream> Open(std::u16string_view name, FileAccess access) override {
+        auto file = std::make_unique<NativeFile>();
+        return file->Open(name, access) ? std::move(file) : nullptr;
+    }
+
+    bool Exists(std::u16string_view name) const override { return IsExistingFile(name); }
+};
+
 } // namespace
 
 bool NativeFile::Open(std::u16string_view name, FileAccess access) {
@@ -165,6 +175,11 @@ bool NativeFile::Write(const void* bytes, std::size_t count) {
 
 bool NativeFile::Seek(long long position) {
     return SeekTo(descriptor, position);
+}
+
+FileStore& NativeFiles() {
+    static NativeFileStore store;
+    return store;
 }
 
 bool MakeWritable(std::u16string_view name) {

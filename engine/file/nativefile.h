@@ -1,36 +1,26 @@
 #pragma once
 
-#include <cstddef>
+#include "engine/file/filestore.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Vorn {
 
-enum class FileAccess { Read = 0, Write = 1 };
-
 // An open file of the platform, unbuffered, bytes as they are. The only class that knows how files are opened.
-class NativeFile {
+class NativeFile final : public ByteStream {
 public:
     NativeFile() = default;
-    NativeFile(const NativeFile&) = delete;
-    NativeFile& operator=(const NativeFile&) = delete;
-    ~NativeFile() { Close(); }
+    ~NativeFile() override { Close(); }
 
     // Opens for reading, or truncates or creates for writing. The name goes to the platform as it stands.
     bool Open(std::u16string_view name, FileAccess access);
 
-    // Some platforms open a directory for reading, and only its reads fail.
-    bool IsDirectory() const;
-
-    // True if there is nothing to close or the platform closed without a failure.
-    bool Close();
-
-    // The bytes read, 0 at the end of the file, -1 for a failure.
-    std::ptrdiff_t Read(void* bytes, std::size_t count);
-
-    // False if not all bytes could be written.
-    bool Write(const void* bytes, std::size_t count);
+    std::ptrdiff_t Read(void* bytes, std::size_t count) override;
+    bool Write(const void* bytes, std::size_t count) override;
+    bool Close() override;
+    bool IsDirectory() const override;
 
     // Moves the place of the next access; past the end is allowed.
     bool Seek(long long position);
@@ -40,6 +30,9 @@ private:
 
     int descriptor = kNone;
 };
+
+// The files of the platform.
+FileStore& NativeFiles();
 
 // Takes a file's protection against writing off; false if that fails or there is no such file.
 bool MakeWritable(std::u16string_view name);

@@ -5,11 +5,10 @@
 namespace Vorn {
 
 void BrushSet::Load(FileArchiveSystem& archives) {
-    FileArchive* archive = archives.OpenForRead(name.View(), false);
-    if (archive != nullptr) {
+    const ScopedArchive archive(archives, archives.OpenForRead(name.View(), false));
+    if (archive) {
         FieldIo io(*archive, FieldIo::Direction::Read);
         Fields(io);
-        archives.Close(archive);
     }
 }
 

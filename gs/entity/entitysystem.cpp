@@ -25,8 +25,8 @@ EntitySystem::EntitySystem(FileArchiveSystem& _archives) : archives(_archives), 
 }
 
 std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path) {
-    FileArchive* archive = archives.OpenForRead(path, false);
-    if (archive == nullptr) {
+    const ScopedArchive archive(archives, archives.OpenForRead(path, false));
+    if (!archive) {
         return nullptr;
     }
     archive->SetContext(&context);
@@ -38,7 +38,6 @@ std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path)
         definition->Fields(io);
     }
     entityDefArchiveSum += archive->GetCheckSum();
-    archives.Close(archive);
     return definition;
 }
 

@@ -120,13 +120,12 @@ void Mesh::Data::Load(FileArchiveSystem& archives, std::u16string_view path) {
     CheckAssert(!isLoaded, "!isLoaded || g_Game.debugMenu->hotloadTextures");
     isLoaded = true;
     fileName.Assign(path);
-    FileArchive* archive = archives.OpenForRead(path, false);
-    if (archive == nullptr) {
+    const ScopedArchive archive(archives, archives.OpenForRead(path, false));
+    if (!archive) {
         EndAbnormally();
     }
     archive->Read(u"MeshData", *this);
     version = archive->GetVersion();
-    archives.Close(archive);
 }
 
 } // namespace Vorn

@@ -72,7 +72,7 @@ void MeshSystem::ReleaseMesh(Mesh* mesh) {
 bool MeshSystem::FindMeshFile(DataPath& result, std::u16string_view name) const {
     if (meshDirectory.IsEmpty()) {
         result.Assign(name);
-        if (FileSystem::Exists(result.View())) {
+        if (fileSystem.Exists(result.View())) {
             return true;
         }
     }

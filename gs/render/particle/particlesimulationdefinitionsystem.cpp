@@ -5,13 +5,14 @@
 namespace Vorn {
 
 void ParticleSimulationDefinitionSystem::Load(ParticleSimulationDefinition& definition, std::u16string_view path) {
-    FileArchive* archive = archives.OpenForRead(path, false);
-    CheckAssert(archive != nullptr, "fileArchive != 0");
-    if (archive == nullptr) {
-        return;
+    {
+        const ScopedArchive archive(archives, archives.OpenForRead(path, false));
+        CheckAssert(static_cast<bool>(archive), "fileArchive != 0");
+        if (!archive) {
+            return;
+        }
+        archive->Read(ParticleSimulationDefinition::kLabel, definition);
     }
-    archive->Read(ParticleSimulationDefinition::kLabel, definition);
-    archives.Close(archive);
     definition.SetFileName(path);
 }
 

@@ -73,9 +73,9 @@ TEST_F(FileSystemTest, ReportsWhatDoesNotOpen) {
     const auto failure = [&](const char* name) { return "Failed to Open File: '" + Utf8(NameIn(name)) + "'\n"; };
     EXPECT_EQ(TakeReports(), Reports({failure("missing"), failure("."), failure("no/where")}));
     Put("file", "");
-    EXPECT_TRUE(FileSystem::Exists(NameIn("file")));
-    EXPECT_FALSE(FileSystem::Exists(NameIn("missing")));
-    EXPECT_FALSE(FileSystem::Exists(NameIn(".")));
+    EXPECT_TRUE(core->fileSystem.Exists(NameIn("file")));
+    EXPECT_FALSE(core->fileSystem.Exists(NameIn("missing")));
+    EXPECT_FALSE(core->fileSystem.Exists(NameIn(".")));
 }
 
 TEST_F(FileSystemTest, CutsLongNamesInReportsOnly) {

@@ -20,14 +20,12 @@ std::string_view SummaryOf(const FindingCode& code) {
     return code.explanation.substr(0, code.explanation.find('\n'));
 }
 
-std::string_view NearestCode(std::string_view name) {
-    std::vector<std::u16string> names;
+std::string UnknownCode(std::string_view name) {
+    std::vector<std::string_view> names;
     for (const FindingCode& row : kFindingCodes) {
-        names.emplace_back(row.name.begin(), row.name.end());
+        names.push_back(row.name);
     }
-    const std::vector<std::u16string_view> candidates(names.begin(), names.end());
-    const std::size_t place = NearestOf(std::u16string(name.begin(), name.end()), candidates);
-    return place == kNoneNear ? std::string_view() : kFindingCodes[place].name;
+    return "no code '" + std::string(name) + "'" + DidYouMean(name, names);
 }
 
 } // namespace Vorn

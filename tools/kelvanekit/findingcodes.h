@@ -381,7 +381,7 @@ std::size_t IndexOf(const FindingCode& code);
 // The first sentence of an explanation.
 std::string_view SummaryOf(const FindingCode& code);
 
-// The name of a code that is most like a misspelt one; empty if none is near.
-std::string_view NearestCode(std::string_view name);
+// The message for a name that is none of a code, with the nearest one if there is any.
+std::string UnknownCode(std::string_view name);
 
 } // namespace Vorn

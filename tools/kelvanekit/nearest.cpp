@@ -1,8 +1,11 @@
 #include "tools/kelvanekit/nearest.h"
 
+#include "engine/string/utf8.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <vector>
 
 namespace Vorn {
 
@@ -77,6 +80,16 @@ std::size_t NearestOf(std::u16string_view text, std::span<const std::u16string_v
         }
     }
     return nearest;
+}
+
+std::string DidYouMean(std::string_view text, std::span<const std::string_view> candidates) {
+    std::vector<std::u16string> wide;
+    for (const std::string_view candidate : candidates) {
+        wide.emplace_back(candidate.begin(), candidate.end());
+    }
+    const std::vector<std::u16string_view> views(wide.begin(), wide.end());
+    const std::size_t place = NearestOf(NameFromBytes(text), views);
+    return place == kNoneNear ? std::string() : "; did you mean `" + std::string(candidates[place]) + "`?";
 }
 
 } // namespace Vorn

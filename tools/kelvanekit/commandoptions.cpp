@@ -1,0 +1,91 @@
+#include "tools/kelvanekit/commandoptions.h"
+
+#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/orderedjobs.h"
+
+#include <CLI/CLI.hpp>
+
+namespace Vorn {
+
+namespace {
+
+constexpr int kMostJobs = 1024;
+
+// An option that may stand several times, with one value each.
+template <class Option>
+void MakeRepeatable(Option* option) {
+    option->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+template <class Rows>
+std::vector<std::string> NamesIn(const Rows& rows) {
+    std::vector<std::string> names;
+    for (const auto& row : rows) {
+        names.emplace_back(row.name);
+    }
+    return names;
+}
+
+std::string Joined(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names) {
+        text += (text.empty() ? "" : "|") + name;
+    }
+    return text;
+}
+
+// An option with one of some names as its value.
+void AddChoice(CLI::App& app, const char* option, const char* description, const std::vector<std::string>& names,
+               const std::string& standard, const std::function<void(const std::string&)>& choose) {
+    CLI::Option* added = app.add_option_function<std::string>(option, choose, description);
+    added->check(CLI::IsMember(names))->type_name(Joined(names))->default_str(standard);
+}
+
+} // namespace
+
+void AddSourceOptions(CLI::App& app, SourceOptions& options) {
+    app.add_option("FILE|FOLDER", options.names, "Content files, and folders with such files; - is standard input")
+        ->type_name("");
+    AddChoice(app, "--type", "The type of all files, whatever their ending", NamesIn(ContentKinds()), "",
+              [&](const std::string& name) { options.type = ContentKindNamed(name); });
+    MakeRepeatable(
+        app.add_option("--exclude", options.excludes, "Leave out files and folders of this name; can be repeated")
+            ->type_name("GLOB"));
+    app.add_option("--stdin-name", options.stdinName, "The name of what comes on standard input; its ending is a type")
+        ->type_name("NAME");
+}
+
+void AddJobsOption(CLI::App& app, unsigned& jobs) {
+    jobs = ProcessorCount();
+    app.add_option("--jobs", jobs, "Files to work on at a time [processors]")
+        ->check(CLI::Range(1, kMostJobs))
+        ->type_name("N");
+}
+
+void AddReportOptions(CLI::App& app, ReportOptions& options) {
+    options.form = &FindingForms().front();
+    AddChoice(app, "--format", "The form of the findings", NamesIn(FindingForms()), std::string(options.form->name),
+              [&](const std::string& name) { options.form = FindForm(name); });
+    app.add_option("--max-findings", options.maxFindings, "Show so many findings and count the others")->type_name("N");
+    app.add_flag("--warnings-as-errors", options.warningsAsErrors, "Report warnings as errors");
+    const auto disable = [&](const std::vector<std::string>& names) {
+        for (const std::string& name : names) {
+            const FindingCode* code = FindCode(name);
+            if (code == nullptr) {
+                throw CLI::ValidationError("--disable", UnknownCode(name));
+            }
+            options.disabled.push_back(code);
+        }
+    };
+    MakeRepeatable(app.add_option_function<std::vector<std::string>>("--disable", disable,
+                                                                     "Leave out findings of this code; can be repeated")
+                       ->type_name("CODE"));
+    static constexpr std::pair<const char*, ColorMode> kModes[] = {
+        {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
+    AddChoice(app, "--color", "Colours in the output", {"auto", "always", "never"}, "auto",
+              [&](const std::string& name) {
+                  options.colors = std::ranges::find(kModes, name, &std::pair<const char*, ColorMode>::first)->second;
+              });
+}
+
+} // namespace Vorn

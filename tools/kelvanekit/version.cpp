@@ -1,0 +1,7 @@
+#include "tools/kelvanekit/version.h"
+
+namespace Vorn {
+
+const char* const kVersion = KELVANE_VERSION;
+
+} // namespace Vorn

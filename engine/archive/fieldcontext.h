@@ -15,6 +15,8 @@ struct FieldContext {
     const MeshSystem* meshes = nullptr;
     // The names of races and factions. Needed by entity definitions.
     PlayerSystem* players = nullptr;
+    // Whether each sound of a unit is reported as missing, for there is no data of sounds.
+    bool reportsSounds = false;
 };
 
 } // namespace Vorn

@@ -160,10 +160,10 @@ public:
 
     // A growing list whose room is made at once from the count. Room beyond kMaxListBytes ends the process.
     template <class T, class Entry>
-    void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry) {
+    void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry, ListRule rule = ListRule::Reserved) {
         if (reading) {
             list.Clear();
-            const std::int32_t count = ReadCount({countLabel, ListRule::Reserved});
+            const std::int32_t count = ReadCount({countLabel, rule});
             if (count > list.Capacity()) {
                 list.Reserve(count);
             }
@@ -171,6 +171,12 @@ public:
         } else {
             WriteList(countLabel, list, entry);
         }
+    }
+
+    // A reserved list that its owner fills anew before it is written.
+    template <class T, class Entry>
+    void DerivedList(Label countLabel, DynamicVector<T>& list, Entry entry) {
+        ReservedList(countLabel, list, entry, ListRule::Derived);
     }
 
     // An array that is sized at once and keeps its size, however few elements the file holds. A missing or negative
@@ -213,8 +219,8 @@ public:
     template <class Entry>
     void ReadEntries(std::int32_t count, Entry entry) {
         for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
-            if (observer != nullptr) [[unlikely]] {
-                observer->OnEntry(i);
+            if (observer != nullptr && !observer->OnEntry(i)) [[unlikely]] {
+                break;
             }
             entry(i);
         }

@@ -25,7 +25,9 @@ enum class ListRule {
     // later one is kept, and the order of the rows is that of the table.
     Keyed,
     // The list has as many entries as its limit says, and any other count is reported.
-    Exact
+    Exact,
+    // There is no limit, and what is written is computed from other fields, whatever was read.
+    Derived
 };
 
 struct ListShape {
@@ -51,7 +53,8 @@ public:
     virtual void OnDegrees() {}
     // The next Uint is the count of a list. OnEntry precedes each of its entries, OnListEnd follows the last.
     virtual void OnList(const ListShape&) {}
-    virtual void OnEntry(std::int32_t) {}
+    // False ends the list ahead of this entry.
+    virtual bool OnEntry(std::int32_t) { return true; }
     virtual void OnListEnd() {}
     // The record asks whether the file is of this version or later.
     virtual void OnVersion(std::int32_t) {}

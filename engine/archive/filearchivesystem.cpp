@@ -1,5 +1,6 @@
 #include "engine/archive/filearchivesystem.h"
 
+#include "engine/archive/archiveheader.h"
 #include "engine/archive/archiveversion.h"
 #include "engine/archive/binaryfilearchive.h"
 #include "engine/archive/steamfilearchive.h"
@@ -12,12 +13,7 @@ namespace Vorn {
 
 namespace {
 
-constexpr Label kVersionLabel = u"ZephArchiveVersion";
-constexpr unsigned char kBinaryHeader[] = {'B', 'I', 'N', '2', '\n'};
-constexpr unsigned char kVersionMark = '2';
-constexpr int kHeaderSize = 5;
-constexpr int kOldHeaderSize = 4;
-constexpr int kHeaderLineCapacity = 256;
+constexpr int kHeaderSize = sizeof kBinaryHeader;
 
 using HeaderLine = FixedString<kHeaderLineCapacity>;
 
@@ -124,8 +120,8 @@ bool FileArchiveSystem::DetectBinary(std::u16string_view fileName, bool& hasVers
         file->Read(&byte, 1, 1);
     }
     fileSystem.Close(file);
-    hasVersion = header[3] == kVersionMark;
-    return std::equal(header, header + 3, kBinaryHeader);
+    hasVersion = header[kBinaryMarkSize] == kVersionMark;
+    return std::equal(header, header + kBinaryMarkSize, kBinaryHeader);
 }
 
 // A file that does not open is closed all the same: a missing source ends the process here.
@@ -136,8 +132,8 @@ bool FileArchiveSystem::DetectText(std::u16string_view fileName, bool& hasVersio
         file->GetString(line.Buffer());
     }
     fileSystem.Close(file);
-    hasVersion = hasVersion || line.View().find(u'2') != std::u16string_view::npos;
-    return line.View().find(u"TXT") != std::u16string_view::npos;
+    hasVersion = hasVersion || line.View().find(kVersionMark) != std::u16string_view::npos;
+    return line.View().find(kTextMark) != std::u16string_view::npos;
 }
 
 void FileArchiveSystem::SkipHeader(File& file, FileArchiveType type, bool hasVersion) {
@@ -146,7 +142,7 @@ void FileArchiveSystem::SkipHeader(File& file, FileArchiveType type, bool hasVer
         file.GetString(line.Buffer());
         return;
     }
-    const int size = hasVersion ? kHeaderSize : kOldHeaderSize;
+    const int size = hasVersion ? kHeaderSize : kOldBinaryHeaderSize;
     for (int i = 0; i < size; ++i) {
         unsigned char skipped = 0;
         file.Read(&skipped, 1, 1);
@@ -158,7 +154,8 @@ void FileArchiveSystem::WriteHeader(File* file, FileArchiveType type) {
     CheckAssert(file->GetAccess() == FileAccess::Write, "file->GetAccess() == FileAccess::Write");
     switch (type) {
     case FileArchiveType::Text:
-        file->PrintText(u"TXT2\n");
+        file->PrintText(kTextHeader);
+        file->PrintText(u"\n");
         break;
     case FileArchiveType::Binary:
         file->Write(kBinaryHeader, kHeaderSize, 1);

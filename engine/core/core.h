@@ -22,7 +22,7 @@ public:
 
     FileSystem fileSystem;
     TextureSystem textureSystem;
-    FieldContext context{&textureSystem, &meshSystem};
+    FieldContext context{&textureSystem, &meshSystem, nullptr, true};
     FileArchiveSystem fileArchiveSystem{fileSystem, context};
     MeshSystem meshSystem{fileSystem, fileArchiveSystem};
 

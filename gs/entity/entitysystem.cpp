@@ -12,13 +12,13 @@ namespace {
 // Units of a stem before it is told too long; the report shows no more.
 constexpr std::size_t kStemLimit = 255;
 
-void TransferType(FieldIo& io, EntityType& type) {
+} // namespace
+
+void EntitySystem::TypeField(FieldIo& io, EntityType& type) {
     auto number = static_cast<std::int32_t>(type);
     io.EnumNumber(u"entityType", number, kEntityTypeTable);
     type = static_cast<EntityType>(number);
 }
-
-} // namespace
 
 EntitySystem::EntitySystem(FileArchiveSystem& _archives) : archives(_archives), context(archives.GetContext()) {
     context.players = &playerSystem;
@@ -32,7 +32,7 @@ std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path)
     archive->SetContext(&context);
     FieldIo io(*archive, FieldIo::Direction::Read);
     EntityType type = EntityType::Invalid;
-    TransferType(io, type);
+    TypeField(io, type);
     std::unique_ptr<EntityDef> definition = CreateNamed(type, path);
     if (definition != nullptr) {
         definition->Fields(io);
@@ -67,7 +67,7 @@ void EntitySystem::WriteEntityDef(Archive& archive, const EntityDef& definition)
     archive.SetContext(&context);
     FieldIo io(archive, FieldIo::Direction::Write);
     EntityType type = definition.GetEntityType();
-    TransferType(io, type);
+    TypeField(io, type);
     definition.Write(archive);
 }
 

@@ -25,7 +25,10 @@ public:
     std::unique_ptr<EntityDef> LoadEntityDef(std::u16string_view path);
 
     // A fresh definition; null, after the check "false", for a type without a class.
-    std::unique_ptr<EntityDef> CreateEntityDef(EntityType type, std::u16string_view name);
+    static std::unique_ptr<EntityDef> CreateEntityDef(EntityType type, std::u16string_view name);
+
+    // The field that stands in front of a definition's own.
+    static void TypeField(FieldIo& io, EntityType& type);
 
     // Writes a definition as a file holds it, the type's text first.
     void WriteEntityDef(Archive& archive, const EntityDef& definition);
@@ -34,7 +37,7 @@ public:
     std::uint32_t GetEntityDefArchiveSum() const { return entityDefArchiveSum; }
 
 private:
-    std::unique_ptr<EntityDef> CreateNamed(EntityType type, std::u16string_view path);
+    static std::unique_ptr<EntityDef> CreateNamed(EntityType type, std::u16string_view path);
 
     FileArchiveSystem& archives;
     // Definitions keep names of races and factions as indexes into its lists.

@@ -40,7 +40,7 @@ void ConvertMesh(Core& core, const Conversion& conversion) {
         if (mesh == nullptr) {
             EndAbnormally();
         }
-        archive.Write(u"MeshData", mesh->data);
+        archive.Write(Mesh::Data::kLabel, mesh->data);
     });
     core.meshSystem.ReleaseMesh(mesh);
     core.meshSystem.FreeAll();

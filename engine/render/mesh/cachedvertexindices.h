@@ -7,12 +7,18 @@ namespace Vorn {
 // A direction that vertices are listed for.
 struct MeshDirection {
     std::u16string_view name;
+    // The key of the list's count.
+    Label countLabel;
     Vector3 axis;
 };
 
 inline constexpr MeshDirection kDirections[Mesh::Data::kDirectionCount] = {
-    {u"UP", {0.0f, 1.0f, 0.0f}},    {u"DOWN", {0.0f, -1.0f, 0.0f}}, {u"LEFT", {-1.0f, 0.0f, 0.0f}},
-    {u"RIGHT", {1.0f, 0.0f, 0.0f}}, {u"FRONT", {0.0f, 0.0f, 1.0f}}, {u"BACK", {0.0f, 0.0f, -1.0f}},
+    {u"UP", u"NumCachedVertexIndicesInDirection:UP", {0.0f, 1.0f, 0.0f}},
+    {u"DOWN", u"NumCachedVertexIndicesInDirection:DOWN", {0.0f, -1.0f, 0.0f}},
+    {u"LEFT", u"NumCachedVertexIndicesInDirection:LEFT", {-1.0f, 0.0f, 0.0f}},
+    {u"RIGHT", u"NumCachedVertexIndicesInDirection:RIGHT", {1.0f, 0.0f, 0.0f}},
+    {u"FRONT", u"NumCachedVertexIndicesInDirection:FRONT", {0.0f, 0.0f, 1.0f}},
+    {u"BACK", u"NumCachedVertexIndicesInDirection:BACK", {0.0f, 0.0f, -1.0f}},
 };
 
 // Fills the list of each direction with the vertices whose normal is at most three eighths of pi away from it, ordered

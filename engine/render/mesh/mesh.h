@@ -83,6 +83,9 @@ public:
     public:
         static constexpr int kDirectionCount = 6;
 
+        // The key of the one record that a mesh file holds.
+        static constexpr Label kLabel = u"MeshData";
+
         using VertexIndexVector = DynamicVector<std::int32_t>;
 
         // Reads the file at `path`, either form. A file that is neither ends the process abnormally, and so does an

@@ -94,9 +94,7 @@ void Mesh::Data::Fields(FieldIo& io) {
         ComputeCachedVertexIndices();
     }
     for (int i = 0; i < kDirectionCount; ++i) {
-        FixedString<64> countLabel;
-        Format(countLabel.Buffer(), u"NumCachedVertexIndicesInDirection:%s", kDirections[i].name);
-        io.ReservedList(countLabel.View(), cachedVertexIndices[i], [&](std::int32_t& index) {
+        io.DerivedList(kDirections[i].countLabel, cachedVertexIndices[i], [&](std::int32_t& index) {
             auto number = static_cast<std::uint32_t>(index);
             io.Uint(u"Index", number);
             index = static_cast<std::int32_t>(number);
@@ -124,7 +122,7 @@ void Mesh::Data::Load(FileArchiveSystem& archives, std::u16string_view path) {
     if (!archive) {
         EndAbnormally();
     }
-    archive->Read(u"MeshData", *this);
+    archive->Read(kLabel, *this);
     version = archive->GetVersion();
 }
 

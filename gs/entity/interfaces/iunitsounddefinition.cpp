@@ -14,7 +14,7 @@ void IUnitSoundDefinition::Fields(FieldIo& io) {
     for (int i = 0; i < kUnitSoundTypeCount; ++i) {
         io.GrowingList(kCountLabels[i], sounds[i], [&](SoundID& sound) {
             io.Value(u"SoundID", sound);
-            if (io.Reading()) {
+            if (io.Reading() && io.Context().reportsSounds) {
                 ReportError(u"SoundData does not exists for: %s\n", sound.GetName());
             }
         });

@@ -1,20 +1,24 @@
 #[[
-kelvane_convert(TYPE <type> FILES <file>... OUTPUT_DIRECTORY <directory> [FORMAT txt|bin] [TARGET <name>])
+kelvane_convert(TYPE <type> FILES <file>... OUTPUT_DIRECTORY <directory> [BASE <directory>] [FORMAT txt|bin]
+                [TARGET <name>])
 
-Converts each file into one of the same name in the output directory, as a part of `all`. Every file is a rule of its
-own with that one output, which is made again when the file or the converter changes, and a build tool runs as many of
-them at once as it likes. Files and directory are relative to the current source and binary directory. FORMAT is bin by
-default. TARGET names the target that makes all outputs, for others to depend on.
+Converts each file into one of the same name in the output directory, as a part of `all`. With BASE the folders between
+it and a file are kept: BASE content turns content/ships/a.entity into <directory>/ships/a.entity. Every file is a rule
+of its own with that one output, which is made again when the file or the converter changes, and a build tool runs as
+many of them at once as it likes. Files and BASE are relative to the current source directory, OUTPUT_DIRECTORY to the
+current binary directory. FORMAT is bin by default. TARGET names the target that makes all outputs, for others to depend
+on.
 
-Reports of the converter appear in the output of the build. They do not fail it, and neither does a conversion that
-writes nothing; only one that ends abnormally does.
+Reports of the converter appear in the output of the build, below the name of their file. They do not fail it. A
+conversion that ends abnormally or writes nothing does, and so does a full disk; then the output stays as it was.
 
 KELVANE_EXECUTABLE is the converter to run. Set it in a cross build, where the installed one is not for this machine.
 ]]
 set(KELVANE_EXECUTABLE "" CACHE FILEPATH "Converter to run in place of the installed one")
+set_property(GLOBAL PROPERTY KELVANE_CONVERT_SCRIPT "${CMAKE_CURRENT_LIST_DIR}/KelvaneConvertFile.cmake")
 
 function(kelvane_convert)
-  cmake_parse_arguments(PARSE_ARGV 0 convert "" "TYPE;OUTPUT_DIRECTORY;FORMAT;TARGET" "FILES")
+  cmake_parse_arguments(PARSE_ARGV 0 convert "" "TYPE;OUTPUT_DIRECTORY;BASE;FORMAT;TARGET" "FILES")
   if(convert_UNPARSED_ARGUMENTS OR NOT convert_OUTPUT_DIRECTORY)
     message(FATAL_ERROR "kelvane_convert: unknown arguments '${convert_UNPARSED_ARGUMENTS}' or no OUTPUT_DIRECTORY")
   endif()
@@ -29,21 +33,29 @@ function(kelvane_convert)
 
   set(executable "${KELVANE_EXECUTABLE}")
   if(NOT executable)
-    set(executable kelvane::kelvane)
+    set(executable $<TARGET_FILE:kelvane::kelvane>)
   endif()
+  get_property(script GLOBAL PROPERTY KELVANE_CONVERT_SCRIPT)
   get_filename_component(directory "${convert_OUTPUT_DIRECTORY}" ABSOLUTE BASE_DIR "${CMAKE_CURRENT_BINARY_DIR}")
-  file(MAKE_DIRECTORY "${directory}")
+  get_filename_component(base "${convert_BASE}" ABSOLUTE)
   set(outputs)
   foreach(file IN LISTS convert_FILES)
     get_filename_component(source "${file}" ABSOLUTE)
     get_filename_component(name "${file}" NAME)
+    if(convert_BASE)
+      file(RELATIVE_PATH name "${base}" "${source}")
+      if(name MATCHES "^\\.\\./")
+        message(FATAL_ERROR "kelvane_convert: '${file}' is not below '${base}'")
+      endif()
+    endif()
     set(output "${directory}/${name}")
     if(output IN_LIST outputs OR output STREQUAL source)
       message(FATAL_ERROR "kelvane_convert: '${file}' would overwrite '${output}'")
     endif()
     add_custom_command(
       OUTPUT "${output}"
-      COMMAND "${executable}" ${convert_TYPE} "${source}" "${output}" ${convert_FORMAT}
+      COMMAND "${CMAKE_COMMAND}" -DEXECUTABLE=${executable} -DTYPE=${convert_TYPE} -DSOURCE=${source} -DOUTPUT=${output}
+        -DFORMAT=${convert_FORMAT} -P "${script}"
       DEPENDS "${source}" "${executable}"
       COMMENT "Converting ${name}"
       VERBATIM)

@@ -1,13 +1,13 @@
-# Makes kit_libraries, with the headers of CLI11 and nlohmann/json, if both are there.
+# Makes kelvane_kit_libraries, with the headers of CLI11 and nlohmann/json, if both are there.
 find_package(CLI11 2.1 QUIET CONFIG)
 find_package(nlohmann_json 3.11 QUIET CONFIG)
 if(NOT CLI11_FOUND OR NOT nlohmann_json_FOUND)
   return()
 endif()
 
-add_library(kit_libraries INTERFACE)
+add_library(kelvane_kit_libraries INTERFACE)
 if(NOT CMAKE_CROSSCOMPILING)
-  target_link_libraries(kit_libraries INTERFACE CLI11::CLI11 nlohmann_json::nlohmann_json)
+  target_link_libraries(kelvane_kit_libraries INTERFACE CLI11::CLI11 nlohmann_json::nlohmann_json)
   return()
 endif()
 
@@ -21,4 +21,4 @@ foreach(library CLI11::CLI11/CLI nlohmann_json::nlohmann_json/nlohmann)
   list(GET includes 0 include)
   file(CREATE_LINK ${include}/${name} ${folder}/${name} SYMBOLIC)
 endforeach()
-target_include_directories(kit_libraries SYSTEM INTERFACE ${folder})
+target_include_directories(kelvane_kit_libraries SYSTEM INTERFACE ${folder})

@@ -1,5 +1,7 @@
 #include "tools/kelvanekit/version.h"
 
+#include "tools/version.h"
+
 namespace Vorn {
 
 const char* const kVersion = KELVANE_VERSION;

@@ -1,0 +1,7 @@
+#include "tools/version.h"
+
+// The converter has no option that shows its version: `strings kelvane | grep '^kelvane '` finds it in the file.
+#ifdef __GNUC__
+__attribute__((used))
+#endif
+static constexpr char kIdentification[] = "kelvane " KELVANE_VERSION;

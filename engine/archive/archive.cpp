@@ -17,6 +17,17 @@ void Archive::SetVersion(std::int32_t _version) {
     version = _version;
 }
 
+void Archive::CountIdleRead() {
+    EndIdleRead();
+    ++idleWork;
+    isIdle = true;
+    reportedBefore = GetReportCost();
+}
+
+void Archive::CountIdleReports() {
+    idleWork += GetReportCost() - reportedBefore;
+}
+
 void CheckElementCount(std::int32_t elementCount, std::int32_t arraySize) {
     CheckAssert(elementCount == arraySize, "elementCount == data->Size()");
 }

@@ -97,18 +97,31 @@ public:
     FieldObserver* GetObserver() const { return observer; }
     void SetObserver(FieldObserver* _observer) { observer = _observer; }
 
-    // True once so many reads found their file at its end that no counted loop should go on: a damaged count must not
-    // keep the process busy for hours.
-    bool IsExhausted() const { return idleReads > kMaxIdleReads; }
+    // True once so many reads found nothing new, with the reports that came of them, that no counted loop should go on:
+    // a damaged count must not keep the process busy for hours.
+    bool IsExhausted() const { return idleWork > kMaxIdleWork; }
 
 protected:
-    void CountIdleRead() { ++idleReads; }
+    // An idle read finds its file at its end, or the line that it finds was read before. Counts for itself and with
+    // what is reported from here to the next read, see GetReportCost.
+    void CountIdleRead();
+    // A read found something new.
+    void EndIdleRead() {
+        if (isIdle) [[unlikely]] {
+            CountIdleReports();
+            isIdle = false;
+        }
+    }
 
 private:
-    static constexpr std::int32_t kMaxIdleReads = 1000000;
+    static constexpr std::uint64_t kMaxIdleWork = 1000000;
+
+    void CountIdleReports();
 
     std::int32_t version = kNoVersion;
-    std::int32_t idleReads = 0;
+    bool isIdle = false;
+    std::uint64_t idleWork = 0;
+    std::uint64_t reportedBefore = 0;
     const FieldContext* context = nullptr;
     FieldObserver* observer = nullptr;
 };

@@ -116,11 +116,14 @@ void ScanFloatBits(Scanner& scanner, Floats<N>& values) {
 void TextFileArchive::TakeLine() {
     KeepPlainLine();
     const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
-    if (!isFresh) {
+    if (isFresh) {
+        EndIdleRead();
+    } else {
         CountIdleRead();
     }
     ++lineNumber;
     m_CurrentLineUnread = false;
+    takesPlainLines = isFresh;
 }
 
 std::u16string_view TextFileArchive::RestOfLine(const char16_t* text) const {
@@ -138,6 +141,7 @@ const char16_t* TextFileArchive::FindLabel(Label label) {
     }
     ReportMissingLabel(label);
     m_CurrentLineUnread = true;
+    takesPlainLines = false;
     return nullptr;
 }
 
@@ -156,7 +160,7 @@ void TextFileArchive::ReportMissingQuote(Label label) const {
 template <class Scan>
 VORN_ALWAYS_INLINE bool TextFileArchive::TakePlain(Label label, Scan scan) {
     static_assert(kLongestPlainLine <= kLineCapacity);
-    if (m_CurrentLineUnread || !file->HasPlainText()) [[unlikely]] {
+    if (!takesPlainLines || !file->HasPlainText()) [[unlikely]] {
         return false;
     }
     const char* start = file->PeekText();

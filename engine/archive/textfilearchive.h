@@ -93,6 +93,8 @@ private:
     int currentLineLength = 0;
     std::int32_t lineNumber = 0;
     bool m_CurrentLineUnread = false;
+    // Not where the current line waits, and not behind an idle read, whose end TakeLine has to see.
+    bool takesPlainLines = true;
     // The line taken last, up to the place of the file, where it was taken straight from the file's bytes; the current
     // line is older then.
     const char* plainLine = nullptr;

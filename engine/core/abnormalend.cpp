@@ -1,5 +1,7 @@
 #include "engine/core/abnormalend.h"
 
+#include "engine/core/debugoutput.h"
+
 #include <cstdlib>
 
 namespace Vorn {
@@ -24,6 +26,7 @@ void EndAbnormally() {
     for (EndGuard* guard = g_EndGuards; guard != nullptr; guard = guard->next) {
         guard->BeforeAbnormalEnd();
     }
+    FlushDebugOutput();
     std::abort();
 }
 

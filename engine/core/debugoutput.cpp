@@ -6,9 +6,14 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <atomic>
+#include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <mutex>
+#include <poll.h>
 #include <unistd.h>
 #endif
 
@@ -20,24 +25,82 @@ void WriteDebugOutput(const char16_t* text) {
     OutputDebugStringW(reinterpret_cast<const wchar_t*>(text));
 }
 
+void FlushDebugOutput() {}
+
 bool IsDebuggerAttached() {
     return IsDebuggerPresent() != 0;
 }
 
 #else
 
-void WriteDebugOutput(const char16_t* text) {
-    char bytes[kReportCapacity * kMaxUtf8PerUnit + 1];
-    char* end = EncodeUtf8(bytes, TextIn(text, kReportCapacity));
-    if (end == bytes || end[-1] != '\n') {
-        *end++ = '\n';
+namespace {
+
+// Goes on where a signal interrupts, and waits where a write would block.
+void WriteToStandardError(const char* bytes, std::size_t count) {
+    while (count > 0) {
+        const ssize_t written = write(STDERR_FILENO, bytes, count);
+        if (written > 0) {
+            bytes += written;
+            count -= static_cast<std::size_t>(written);
+        } else if (written == 0 || (errno != EINTR && errno != EAGAIN && errno != EWOULDBLOCK)) {
+            return;
+        } else if (errno != EINTR) {
+            pollfd standardError = {STDERR_FILENO, POLLOUT, 0};
+            poll(&standardError, 1, -1);
+        }
     }
-    [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, bytes, static_cast<std::size_t>(end - bytes));
 }
 
-// A tracer shows in the process status as a process number other than 0. The status stays open, since a damaged file
-// may fail a million checks, and each asks anew.
-bool IsDebuggerAttached() {
+// The reports that wait. Only whole ones, so that those of several processes stay apart as far as the platform goes.
+class ReportBlock {
+public:
+    constexpr ReportBlock() = default;
+    ReportBlock(const ReportBlock&) = delete;
+    ReportBlock& operator=(const ReportBlock&) = delete;
+    // What is reported after this, while the process ends, does not wait.
+    ~ReportBlock() {
+        hasEnded = true;
+        Flush();
+    }
+
+    void Add(std::u16string_view text) {
+        const std::lock_guard lock(mutex);
+        if (sizeof bytes - used < kLongest) {
+            WriteOut();
+        }
+        char* start = bytes + used;
+        char* end = EncodeUtf8(start, text);
+        if (end == start || end[-1] != '\n') {
+            *end++ = '\n';
+        }
+        used = static_cast<std::size_t>(end - bytes);
+        if (hasEnded) {
+            WriteOut();
+        }
+    }
+
+    void Flush() {
+        if (used != 0) {
+            const std::lock_guard lock(mutex);
+            WriteOut();
+        }
+    }
+
+private:
+    static constexpr std::size_t kLongest = std::size_t{kReportCapacity} * kMaxUtf8PerUnit + 1;
+
+    void WriteOut() { WriteToStandardError(bytes, used.exchange(0)); }
+
+    std::mutex mutex;
+    std::atomic<std::size_t> used = 0;
+    bool hasEnded = false;
+    char bytes[65536] = {};
+};
+
+constinit ReportBlock g_ReportBlock;
+
+// A tracer shows in the process status as a process number other than 0. The status stays open for the next time.
+bool HasTracer() {
     static const int status = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
     char text[2048];
     const ssize_t count = pread(status, text, sizeof text - 1, 0);
@@ -45,6 +108,30 @@ bool IsDebuggerAttached() {
     constexpr const char* kField = "TracerPid:";
     const char* field = std::strstr(text, kField);
     return field != nullptr && std::strtol(field + std::strlen(kField), nullptr, 10) != 0;
+}
+
+} // namespace
+
+void WriteDebugOutput(const char16_t* text) {
+    g_ReportBlock.Add(TextIn(text, kReportCapacity));
+}
+
+void FlushDebugOutput() {
+    g_ReportBlock.Flush();
+}
+
+// The platform takes microseconds to tell, and a damaged file may fail a million checks.
+bool IsDebuggerAttached() {
+    using Clock = std::chrono::steady_clock;
+    constexpr std::chrono::milliseconds kWorthAsking(1);
+    static thread_local Clock::time_point askedAt;
+    static thread_local bool hasTracer;
+    const Clock::time_point now = Clock::now();
+    if (now - askedAt >= kWorthAsking) {
+        askedAt = now;
+        hasTracer = HasTracer();
+    }
+    return hasTracer;
 }
 
 #endif

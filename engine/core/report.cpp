@@ -2,6 +2,7 @@
 
 #include "engine/core/debugoutput.h"
 #include "engine/file/file.h"
+#include "engine/string/utf8.h"
 
 #include <string>
 
@@ -11,9 +12,16 @@ constinit thread_local Reporting g_Reporting;
 
 namespace {
 
+constinit thread_local std::uint64_t g_ReportCost = 0;
+
 using ReportText = FixedString<kReportCapacity>;
 
 constexpr int kPositionWidth = 50;
+
+void CountReport(const ReportText& text) {
+    constexpr std::size_t kBytesPerCost = 256;
+    g_ReportCost += 1 + CountUtf8(text.View()) / kBytesPerCost;
+}
 
 // Takes out each ".." step with the folder before it and turns slashes into backslashes.
 std::string ShortenPath(std::string_view path) {
@@ -50,16 +58,23 @@ void LogTextWithPosition(const ReportText& text, const char* file, int line) {
     LogText(whole);
 }
 
-int ShowMessage(const char16_t* title, const ReportText& text) {
+// The answer is 0 where there is nobody to ask.
+template <class... Arguments>
+int ShowMessage(const char16_t* title, const char16_t* format, const Arguments&... arguments) {
     if (g_Reporting.messageHandler == nullptr) {
         return 0;
     }
-    ReportText shown = text;
+    ReportText shown;
+    Format(shown.Buffer(), format, arguments...);
     Append(shown.Buffer(), u"\n");
     return g_Reporting.messageHandler->Show(title, shown.View());
 }
 
 } // namespace
+
+std::uint64_t GetReportCost() {
+    return g_ReportCost;
+}
 
 void ReportFailedCheck(const char* expression, SourcePosition position) {
     if (!g_Reporting.debugChecksOff && !IsDebuggerAttached()) {
@@ -71,17 +86,18 @@ void ReportAssert(const char* file, int line, const char* expression) {
     ReportText text;
     if (g_Reporting.reportHandler != nullptr) {
         Format(text.Buffer(), u"%s", expression);
+        CountReport(text);
         g_Reporting.reportHandler->Handle(file, line, text.View(), true);
         return;
     }
     Format(text.Buffer(), u"assert! [%s]\n", expression);
+    CountReport(text);
     LogTextWithPosition(text, file, line);
     if (g_Reporting.suppressAssertDialogs) {
         return;
     }
-    Format(text.Buffer(), u"Assert @ %s(%d)\n\n%s", file, line, expression);
     constexpr int kNoFurtherDialogs = 1;
-    if (ShowMessage(u"Assert", text) == kNoFurtherDialogs) {
+    if (ShowMessage(u"Assert", u"Assert @ %s(%d)\n\n%s", file, line, expression) == kNoFurtherDialogs) {
         g_Reporting.suppressAssertDialogs = true;
     }
 }
@@ -89,12 +105,13 @@ void ReportAssert(const char* file, int line, const char* expression) {
 void ReportErrorList(const char16_t* format, std::initializer_list<FormatArgument> arguments) {
     ReportText text;
     FormatList(text.Buffer(), format, arguments);
+    CountReport(text);
     if (g_Reporting.reportHandler != nullptr) {
         g_Reporting.reportHandler->Handle("", -1, text.View(), true);
         return;
     }
     LogText(text);
-    ShowMessage(u"Error", text);
+    ShowMessage(u"Error", u"%s", text);
 }
 
 void ReportErrorAtList(const FormatAt& format, std::initializer_list<FormatArgument> arguments) {
@@ -106,6 +123,7 @@ void ReportErrorAtList(const FormatAt& format, std::initializer_list<FormatArgum
 void LogLineList(const FormatAt& format, std::initializer_list<FormatArgument> arguments) {
     ReportText text;
     FormatList(text.Buffer(), format.format, arguments);
+    CountReport(text);
     if (g_Reporting.reportHandler != nullptr) {
         g_Reporting.reportHandler->Handle(format.position.file, format.position.line, text.View(), false);
         return;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 namespace Vorn {
 
 // The place in the source that a check or a report comes from.
@@ -11,6 +13,10 @@ struct SourcePosition {
         return {file, line};
     }
 };
+
+// What this thread has reported so far, as the work that it makes: 1 for each report and 1 more for each 256 bytes that
+// its text has in UTF-8.
+std::uint64_t GetReportCost();
 
 // Reports a failed check through the report handler, or on the debug output as "assert! [expression]".
 void ReportAssert(const char* file, int line, const char* expression);

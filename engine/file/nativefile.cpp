@@ -1,5 +1,6 @@
 #include "engine/file/nativefile.h"
 
+#include "engine/core/debugoutput.h"
 #include "engine/string/utf8.h"
 
 #include <algorithm>
@@ -139,6 +140,7 @@ public:
 
 bool NativeFile::Open(std::u16string_view name, FileAccess access) {
     Close();
+    FlushDebugOutput();
     descriptor = OpenDescriptor(name, access);
     return descriptor != kNone;
 }
@@ -157,10 +159,12 @@ bool NativeFile::Close() {
 }
 
 std::ptrdiff_t NativeFile::Read(void* bytes, std::size_t count) {
+    FlushDebugOutput();
     return ReadSome(descriptor, bytes, std::min(count, kMaxTransfer));
 }
 
 bool NativeFile::Write(const void* bytes, std::size_t count) {
+    FlushDebugOutput();
     const char* cursor = static_cast<const char*>(bytes);
     while (count > 0) {
         const std::ptrdiff_t written = WriteSome(descriptor, cursor, std::min(count, kMaxTransfer));

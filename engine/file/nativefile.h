@@ -8,7 +8,8 @@
 
 namespace Vorn {
 
-// An open file of the platform, unbuffered, bytes as they are. The only class that knows how files are opened.
+// An open file of the platform, unbuffered, bytes as they are. The only class that knows how files are opened. Since
+// opening, reading and writing may block for long, the reports that were made before are written first.
 class NativeFile final : public ByteStream {
 public:
     NativeFile() = default;

@@ -1,3 +1,4 @@
+#include "engine/core/debugoutput.h"
 #include "engine/file/filesystem.h"
 #include "tests/support/enginetest.h"
 
@@ -77,6 +78,11 @@ protected:
         return answer;
     }
 
+    static std::string TakeStandardError() {
+        FlushDebugOutput();
+        return testing::internal::GetCapturedStderr();
+    }
+
     std::string TakeLog() {
         files.Close(g_Reporting.logFile);
         g_Reporting.logFile = nullptr;
@@ -98,8 +104,8 @@ TEST_F(SinkTest, PadsThePositionOfChecks) {
     LogLine(u"a line");
     const std::string expected = "engine\\b\\file.cpp(7)                              : assert! [x > 0]\n"
                                  "an\\extraordinarily\\deep\\folder\\of\\the\\source\\file.cpp(12345): assert! [y]\n";
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), expected + "no line end\nGr\xC3\xB6\xC3\x9F"
-                                                                 "e\na line\n");
+    EXPECT_EQ(TakeStandardError(), expected + "no line end\nGr\xC3\xB6\xC3\x9F"
+                                              "e\na line\n");
     std::string logged = expected + "no line endGr\xC3\xB6\xC3\x9F"
                                     "e\na line";
     for (std::size_t at = 0; (at = logged.find('\n', at)) != std::string::npos; at += 2) {
@@ -120,7 +126,7 @@ TEST_F(SinkTest, OneAnswerSilencesFurtherDialogsForChecks) {
         CheckAssert(false, "check");
     }
     ReportError(u"report");
-    testing::internal::GetCapturedStderr();
+    TakeStandardError();
     EXPECT_EQ(shown.size(), 4u);
     EXPECT_TRUE(g_Reporting.suppressAssertDialogs);
     EXPECT_EQ(shown.back(), "Error: report\n");

@@ -123,18 +123,18 @@ TEST_F(ValveTest, IdleReadsCountWithTheirReports) {
                         {text + std::string(1000, 'x') + "\n", 2 + 4},
                         {std::string(kBinaryHeader) + "\xFF\xFF\xFF\x7F", 2}};
     for (const Row& row : rows) {
-        EXPECT_NEAR(EntriesRead(row.bytes), 1000000 / row.work, 2) << row.bytes.substr(0, 40);
+        EXPECT_NEAR(EntriesRead(row.bytes), 1000000 / row.work, 3) << row.bytes.substr(0, 40);
     }
 }
 
 TEST_F(ValveTest, OtherReportsDoNotCount) {
     Read(std::string(kTextHeader) + "b 1\nn 2\n", [&](FieldIo& io) {
         std::int32_t value = 0;
-        for (const Label label : {u"a", u"b", u"n"}) {
-            io.Int(label, value);
+        for (const char16_t* label : {u"a", u"b", u"n"}) {
+            io.Int(std::u16string_view(label), value);
         }
-        for (int i = 0; i <= 1000000; ++i) {
-            ReportError(u"of a record");
+        for (std::uint64_t start = GetReportCost(); GetReportCost() - start <= 1000000;) {
+            ReportError(u"%s", std::u16string(4000, u'r').c_str());
         }
         io.Int(u"n", value);
         io.ReadEntries(1, [&](std::int32_t) { value = 3; });

@@ -18,9 +18,18 @@ using ReportText = FixedString<kReportCapacity>;
 
 constexpr int kPositionWidth = 50;
 
+// The bytes of a text in UTF-8, where each half of a surrogate pair has two.
+std::uint64_t CountBytes(std::u16string_view text) {
+    std::uint32_t count = 0;
+    for (const char16_t unit : text) {
+        count += 1U + (unit >= 0x80) + (unit >= 0x800) - ((unit & 0xF800) == 0xD800);
+    }
+    return count;
+}
+
 void CountReport(const ReportText& text) {
-    constexpr std::size_t kBytesPerCost = 256;
-    g_ReportCost += 1 + CountUtf8(text.View()) / kBytesPerCost;
+    constexpr std::uint64_t kBytesPerCost = 256;
+    g_ReportCost += 1 + CountBytes(text.View()) / kBytesPerCost;
 }
 
 // Takes out each ".." step with the folder before it and turns slashes into backslashes.

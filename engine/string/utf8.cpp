@@ -96,15 +96,6 @@ char* EncodeUtf8(char* out, std::u16string_view text) {
     return out;
 }
 
-std::size_t CountUtf8(std::u16string_view text) {
-    std::size_t count = 0;
-    while (!text.empty()) {
-        const std::uint32_t point = TakePoint(text);
-        count += 1 + (point >= 0x80) + (point >= 0x800) + (point >= 0x10000);
-    }
-    return count;
-}
-
 std::u16string NameFromBytes(std::string_view bytes) {
     std::u16string name;
     name.reserve(bytes.size());

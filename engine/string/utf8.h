@@ -41,9 +41,6 @@ inline constexpr int kMaxUtf8PerUnit = 3;
 // U+FFFD.
 char* EncodeUtf8(char* out, std::u16string_view text);
 
-// The bytes that a text takes in UTF-8.
-std::size_t CountUtf8(std::u16string_view text);
-
 // The name of a file or an argument as the platform gives it in bytes. Every byte string survives the way there and
 // back: a byte that is no UTF-8 becomes the unpaired unit U+DC80 + (byte - 0x80).
 std::u16string NameFromBytes(std::string_view bytes);

@@ -56,6 +56,25 @@ TEST_F(HandlerTest, GetsNoChecksWhileTheyAreOff) {
     EXPECT_EQ(handled[0].text, "report");
 }
 
+TEST_F(HandlerTest, ReportsCostByTheBytesOfTheirTexts) {
+    const auto costOf = [](const std::u16string& text) {
+        const std::uint64_t before = GetReportCost();
+        ReportError(u"%s", text.c_str());
+        return GetReportCost() - before;
+    };
+    EXPECT_EQ(costOf(u""), 1u);
+    EXPECT_EQ(costOf(std::u16string(255, u'x')), 1u);
+    EXPECT_EQ(costOf(std::u16string(256, u'x')), 2u);
+    EXPECT_EQ(costOf(std::u16string(128, u'\u00FC')), 2u);
+    EXPECT_EQ(costOf(std::u16string(171, u'\u8239')), 3u);
+    const std::uint64_t before = GetReportCost();
+    CheckAssert(false, "check");
+    LogLine(u"line");
+    g_Reporting.debugChecksOff = true;
+    CheckAssert(false, "silent");
+    EXPECT_EQ(GetReportCost() - before, 2u);
+}
+
 TEST_F(HandlerTest, GetsReportsCutAtTheirCapacity) {
     ReportError(u"%s", std::u16string(5000, u'x').c_str());
     ASSERT_EQ(handled.size(), 2u);

@@ -1,4 +1,4 @@
-#include "tools/kelvanekit/contentkind.h"
+#include "tools/kelvane/contentkind.h"
 
 #include <algorithm>
 

@@ -1,0 +1,91 @@
+#include "tools/kelvane/conversion.h"
+
+#include "engine/core/core.h"
+#include "engine/window/brushset.h"
+#include "gs/entity/entitysystem.h"
+#include "gs/render/particle/particlesimulationdefinitionsystem.h"
+
+namespace Vorn {
+
+namespace {
+
+constexpr int kTextureDirectory = 5;
+
+// Runs `write` on the destination's archive and returns true if it opens.
+template <class Write>
+bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
+    FileArchiveSystem& archives = core.fileArchiveSystem;
+    const ScopedArchive archive(archives, archives.OpenForWrite(conversion.destination, false, conversion.form));
+    if (archive) {
+        write(*archive);
+    }
+    return static_cast<bool>(archive);
+}
+
+// A mesh that was not found ends the process where it would be written, with the destination open.
+void ConvertMesh(Core& core, const Conversion& conversion) {
+    Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        if (mesh == nullptr) {
+            EndAbnormally();
+        }
+        archive.Write(Mesh::Data::kLabel, mesh->data);
+    });
+    core.meshSystem.ReleaseMesh(mesh);
+    core.meshSystem.FreeAll();
+}
+
+void ConvertBrushes(Core& core, const Conversion& conversion) {
+    BrushSet brushSet(conversion.source);
+    brushSet.Load(core.fileArchiveSystem);
+    WriteDestination(core, conversion, [&](Archive& archive) {
+        FieldIo io(archive, FieldIo::Direction::Write);
+        brushSet.Fields(io);
+    });
+    brushSet.ReleaseTextures();
+}
+
+void ConvertEntity(Core& core, const Conversion& conversion) {
+    EntitySystem entitySystem(core.fileArchiveSystem);
+    const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(conversion.source);
+    if (definition != nullptr) {
+        WriteDestination(core, conversion,
+                         [&](Archive& archive) { entitySystem.WriteEntityDef(archive, *definition); });
+    }
+}
+
+void ConvertParticle(Core& core, const Conversion& conversion) {
+    ParticleSimulationDefinition definition;
+    ParticleSimulationDefinitionSystem(core.fileArchiveSystem).Load(definition, conversion.source);
+    definition.StripFilePaths();
+    if (WriteDestination(core, conversion,
+                         [&](Archive& archive) { archive.Write(ParticleSimulationDefinition::kLabel, definition); })) {
+        definition.SetFileName(conversion.destination);
+    }
+}
+
+} // namespace
+
+void SetUpForConversions(Core& core) {
+    core.textureSystem.SetFolder(core.GetDirectory(kTextureDirectory));
+    core.textureSystem.SetNameOnlyTextures(true);
+}
+
+void ConvertContent(Core& core, ContentKind kind, const Conversion& conversion) {
+    switch (kind) {
+    case ContentKind::Mesh:
+        ConvertMesh(core, conversion);
+        break;
+    case ContentKind::Particle:
+        ConvertParticle(core, conversion);
+        break;
+    case ContentKind::Brushes:
+        ConvertBrushes(core, conversion);
+        break;
+    case ContentKind::Entity:
+        ConvertEntity(core, conversion);
+        break;
+    }
+}
+
+} // namespace Vorn

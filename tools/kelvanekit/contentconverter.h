@@ -1,0 +1,34 @@
+#pragma once
+
+#include "engine/archive/filearchive.h"
+#include "tools/kelvane/contentkind.h"
+
+#include <string>
+#include <string_view>
+
+namespace Vorn {
+
+enum class ConversionResult {
+    Converted,
+    // The converter would write no file: an entity type without a class, or too long a name.
+    Refused,
+    // The converter would end abnormally, or there is not enough memory.
+    Ended
+};
+
+// Converts contents one after the other from memory into memory, into the bytes that the converter writes, whatever was
+// converted before. Reports are dropped. Each thread needs its own.
+class ContentConverter {
+public:
+    // Converts the content of a file; of its name, what stands behind the folders names an entity definition.
+    ConversionResult Convert(ContentKind kind, std::string_view fileName, std::string_view source,
+                             FileArchiveType form);
+
+    // What came of the last conversion.
+    std::string_view Bytes() const { return destination; }
+
+private:
+    std::string destination;
+};
+
+} // namespace Vorn

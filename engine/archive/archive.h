@@ -1,17 +1,6 @@
 #pragma once
 
-#include "engine/math/bool.h"
-#include "engine/math/color.h"
-#include "engine/math/matrix33.h"
-#include "engine/math/matrix44.h"
-#include "engine/math/point.h"
-#include "engine/math/quad.h"
-#include "engine/math/rectangle.h"
-#include "engine/math/size.h"
-#include "engine/math/vector3.h"
-
-#include <cstdint>
-#include <string_view>
+#include "engine/archive/archivevalues.h"
 
 namespace Vorn {
 
@@ -20,20 +9,9 @@ class FieldObserver;
 class SingleLineArchivable;
 struct FieldContext;
 
-// A field's key. Binary forms ignore it, also a null one.
-class Label : public std::u16string_view {
-public:
-    constexpr Label() = default;
-    constexpr Label(std::u16string_view text) : std::u16string_view(text) {}
-
-    // A literal, whose length costs nothing at run time.
-    template <std::size_t N>
-    constexpr Label(const char16_t (&text)[N]) : std::u16string_view(text, N - 1) {}
-};
-
 // The one interface between records and files. A record calls it for every field, in a fixed order; the same calls read
 // or write every file form. A read that finds nothing reports it and leaves its destination untouched; nothing throws.
-class Archive {
+class Archive : public ValueOperations<ArchiveValues> {
 public:
     static constexpr std::int32_t kNoVersion = -1;
 
@@ -42,44 +20,19 @@ public:
     Archive& operator=(const Archive&) = delete;
     virtual ~Archive() = default;
 
+    using ValueOperations::Read;
+    using ValueOperations::Write;
+
     // By default the forms with a bit count forward to the Uint operations and ignore the count.
     virtual void Read(Label label, std::uint32_t& value, int bitCount);
-    virtual void Read(Label label, Color& value) = 0;
-    virtual void Read(Label label, Rectangle& value) = 0;
-    virtual void Read(Label label, Size& value) = 0;
-    virtual void Read(Label label, Point& value) = 0;
-    virtual void Read(Label label, Quad& value) = 0;
-    virtual void Read(Label label, Matrix44& value) = 0;
-    virtual void Read(Label label, Matrix33& value) = 0;
-    virtual void Read(Label label, Vector3& value) = 0;
     // `bufferSize` counts code units, terminator included. A longer text is reported and cut.
     virtual void Read(Label label, char16_t* buffer, int bufferSize) = 0;
-    virtual void Read(Label label, std::int64_t& value) = 0;
-    virtual void Read(Label label, Bool& value) = 0;
-    virtual void Read(Label label, double& value) = 0;
-    virtual void Read(Label label, float& value) = 0;
-    virtual void Read(Label label, std::int32_t& value) = 0;
-    virtual void Read(Label label, std::uint32_t& value) = 0;
     virtual void Read(Label label, SingleLineArchivable& value) = 0;
     virtual void Read(Label label, Archivable& value, std::int32_t version) = 0;
     virtual void Read(Label label, Archivable& value) = 0;
 
     virtual void Write(Label label, const std::uint32_t& value, int bitCount);
-    virtual void Write(Label label, const Color& value) = 0;
-    virtual void Write(Label label, const Rectangle& value) = 0;
-    virtual void Write(Label label, const Size& value) = 0;
-    virtual void Write(Label label, const Point& value) = 0;
-    virtual void Write(Label label, const Quad& value) = 0;
-    virtual void Write(Label label, const Matrix44& value) = 0;
-    virtual void Write(Label label, const Matrix33& value) = 0;
-    virtual void Write(Label label, const Vector3& value) = 0;
     virtual void Write(Label label, const char16_t* text, int bufferSize) = 0;
-    virtual void Write(Label label, const std::int64_t& value) = 0;
-    virtual void Write(Label label, const Bool& value) = 0;
-    virtual void Write(Label label, const double& value) = 0;
-    virtual void Write(Label label, const float& value) = 0;
-    virtual void Write(Label label, const std::int32_t& value) = 0;
-    virtual void Write(Label label, const std::uint32_t& value) = 0;
     virtual void Write(Label label, const SingleLineArchivable& value) = 0;
     virtual void Write(Label label, const Archivable& value) = 0;
 

@@ -4,6 +4,9 @@
 
 namespace Vorn {
 
-template class ByteFileArchive<FileBytes>;
+BinaryFileArchive::BinaryFileArchive(File* _file, bool _hasFloatBits)
+    : ByteFileArchive(_file, _hasFloatBits, FileBytes{_file}) {}
+
+BinaryFileArchive::~BinaryFileArchive() = default;
 
 } // namespace Vorn

@@ -17,7 +17,8 @@ struct FileBytes {
 // The shipping form in a file.
 class BinaryFileArchive final : public ByteFileArchive<FileBytes> {
 public:
-    BinaryFileArchive(File* _file, bool _hasFloatBits) : ByteFileArchive(_file, _hasFloatBits, FileBytes{_file}) {}
+    BinaryFileArchive(File* _file, bool _hasFloatBits);
+    ~BinaryFileArchive() override;
 };
 
 } // namespace Vorn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/archive/archiveform_impl.h"
 #include "engine/archive/bytefilearchive.h"
 #include "engine/archive/checksum.h"
 #include "engine/string/stringlibrary.h"
@@ -26,121 +27,107 @@ Bits LittleEndian(Bits bits) {
     return bits;
 }
 
+template <class Numbers>
+void ToLittleEndian([[maybe_unused]] Numbers& numbers) {
+    if constexpr (std::endian::native == std::endian::big) {
+        for (auto& number : numbers) {
+            number = LittleEndian(number);
+        }
+    }
+}
+
 template <class Bytes>
 void ByteFileArchive<Bytes>::ReportMissing() {
     bytes.ReportShort(1, 0);
     CountIdleRead();
 }
 
-// Not even a part of a scalar that the end cuts in two is stored.
+// Not even a part of a number that the end cuts in two is stored.
 template <class Bytes>
-template <class Bits>
-VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadBits(Bits& bits) {
-    if (const unsigned char* place = bytes.TakeWhole(sizeof bits)) [[likely]] {
-        std::memcpy(&bits, place, sizeof bits);
-        bits = LittleEndian(bits);
+template <class Number>
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadNumber(Number& number) {
+    if (const unsigned char* place = bytes.TakeWhole(sizeof number)) [[likely]] {
+        std::memcpy(&number, place, sizeof number);
+        number = LittleEndian(number);
     } else {
-        ReadBitsSlowly(bits);
+        ReadNumberSlowly(number);
     }
 }
 
 template <class Bytes>
-template <class Bits>
-VORN_RARE void ByteFileArchive<Bytes>::ReadBitsSlowly(Bits& bits) {
-    Bits stored;
+template <class Number>
+VORN_RARE void ByteFileArchive<Bytes>::ReadNumberSlowly(Number& number) {
+    Number stored;
     if (bytes.Take(&stored, sizeof stored, 1) == 1) {
-        bits = LittleEndian(stored);
+        number = LittleEndian(stored);
     } else {
         ReportMissing();
     }
 }
 
-// Several scalars of 32 bits in one go; each that is not there counts for itself.
+// Several numbers of 32 bits in one go; each that is not there counts for itself.
 template <class Bytes>
-template <class... Words>
-VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadWords(Words&... words) {
-    if (const unsigned char* place = bytes.TakeWhole(sizeof(std::uint32_t) * sizeof...(words))) [[likely]] {
-        const auto assign = [&place]<class Word>(Word& word) {
-            std::uint32_t bits;
-            std::memcpy(&bits, place, sizeof bits);
-            place += sizeof bits;
-            word = std::bit_cast<Word>(LittleEndian(bits));
-        };
-        (assign(words), ...);
+template <class Word, std::size_t N>
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadWords(std::array<Word, N>& words) {
+    if (const unsigned char* place = bytes.TakeWhole(sizeof words)) [[likely]] {
+        std::memcpy(words.data(), place, sizeof words);
+        ToLittleEndian(words);
     } else {
-        ReadWordsSlowly(words...);
+        words = ReadWordsSlowly(words);
     }
 }
 
 template <class Bytes>
-template <class... Words>
-VORN_RARE void ByteFileArchive<Bytes>::ReadWordsSlowly(Words&... words) {
-    (ReadBitsSlowly(words), ...);
+template <class Word, std::size_t N>
+VORN_RARE std::array<Word, N> ByteFileArchive<Bytes>::ReadWordsSlowly(std::array<Word, N> words) {
+    for (Word& word : words) {
+        ReadNumberSlowly(word);
+    }
+    return words;
 }
 
 template <class Bytes>
-template <class... Floats>
-VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadFloats(Floats&... floats) {
-    ReadWords(floats...);
-    checkSum += FloatCheckSum(std::array{floats...});
+template <WordValue Value>
+VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadValue(Label, Value& value) {
+    Words<Value> words = ToWords(value);
+    ReadWords(words);
+    value = FromWords<Value>(words);
+    checkSum += CheckSumOf(words);
 }
 
 template <class Bytes>
-template <class... Ints>
-VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadInts(Ints&... ints) {
-    ReadWords(ints...);
-    checkSum += (static_cast<std::uint32_t>(ints) + ...);
+void ByteFileArchive<Bytes>::ReadValue(Label, std::int64_t& value) {
+    ReadNumber(value);
 }
 
 template <class Bytes>
-template <class... Bits>
-void ByteFileArchive<Bytes>::WriteBits(Bits... bits) {
-    const std::common_type_t<Bits...> stored[] = {LittleEndian(bits)...};
-    bytes.Put(stored, sizeof stored[0], sizeof...(bits));
+void ByteFileArchive<Bytes>::ReadValue(Label, double& value) {
+    ReadNumber(value);
+    checkSum += DoubleCheckSum(value);
 }
 
 template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Color& value) {
-    ReadFloats(value.red, value.green, value.blue, value.alpha);
+void ByteFileArchive<Bytes>::ReadValue(Label, Bool& value) {
+    std::uint8_t byte = value.Byte();
+    ReadNumber(byte);
+    value = Bool::FromByte(byte);
+    checkSum += value ? 1 : 0;
 }
 
 template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Rectangle& value) {
-    ReadInts(value.left, value.top, value.right, value.bottom);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Size& value) {
-    ReadInts(value.width, value.height);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Point& value) {
-    ReadInts(value.x, value.y);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Quad& value) {
-    ReadFloats(value.x, value.y, value.z, value.w);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Matrix44& value) {
-    ReadFloats(value.rows[0][0], value.rows[0][1], value.rows[0][2], value.rows[0][3], value.rows[1][0],
-               value.rows[1][1], value.rows[1][2], value.rows[1][3], value.rows[2][0], value.rows[2][1],
-               value.rows[2][2], value.rows[2][3], value.rows[3][0], value.rows[3][1], value.rows[3][2],
-               value.rows[3][3]);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Matrix33& value) {
-    ReadFloats(value.rows[0][0], value.rows[0][1], value.rows[0][2], value.rows[1][0], value.rows[1][1],
-               value.rows[1][2], value.rows[2][0], value.rows[2][1], value.rows[2][2]);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Vector3& value) {
-    ReadFloats(value.x, value.y, value.z);
+template <class Value>
+void ByteFileArchive<Bytes>::WriteValue(Label, const Value& value) {
+    if constexpr (WordValue<Value>) {
+        Words<Value> words = ToWords(value);
+        ToLittleEndian(words);
+        bytes.Put(words.data(), sizeof words[0], static_cast<int>(words.size()));
+    } else if constexpr (std::is_same_v<Value, Bool>) {
+        const std::uint8_t byte = value.Byte();
+        bytes.Put(&byte, sizeof byte, 1);
+    } else {
+        const Value stored = LittleEndian(value);
+        bytes.Put(&stored, sizeof stored, 1);
+    }
 }
 
 template <class Bytes>
@@ -191,149 +178,14 @@ int ByteFileArchive<Bytes>::SkipUnits(int count) {
 }
 
 template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, std::int64_t& value) {
-    ReadBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Bool& value) {
-    std::uint8_t byte = value.Byte();
-    ReadBits(byte);
-    value = Bool::FromByte(byte);
-    checkSum += value ? 1 : 0;
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, double& value) {
-    auto bits = std::bit_cast<std::uint64_t>(value);
-    ReadBits(bits);
-    value = std::bit_cast<double>(bits);
-    checkSum += DoubleCheckSum(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, float& value) {
-    ReadFloats(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, std::int32_t& value) {
-    ReadInts(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, std::uint32_t& value) {
-    ReadInts(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label label, SingleLineArchivable& value) {
-    value.Read(label, *this);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Archivable& value, std::int32_t _version) {
-    value.Read(*this, _version);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Read(Label, Archivable& value) {
-    value.Read(*this);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Color& value) {
-    WriteBits(value.red, value.green, value.blue, value.alpha);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Rectangle& value) {
-    WriteBits(value.left, value.top, value.right, value.bottom);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Size& value) {
-    WriteBits(value.width, value.height);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Point& value) {
-    WriteBits(value.x, value.y);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Quad& value) {
-    WriteBits(value.x, value.y, value.z, value.w);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Matrix44& value) {
-    WriteBits(value.rows[0][0], value.rows[0][1], value.rows[0][2], value.rows[0][3], value.rows[1][0],
-              value.rows[1][1], value.rows[1][2], value.rows[1][3], value.rows[2][0], value.rows[2][1],
-              value.rows[2][2], value.rows[2][3], value.rows[3][0], value.rows[3][1], value.rows[3][2],
-              value.rows[3][3]);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Matrix33& value) {
-    WriteBits(value.rows[0][0], value.rows[0][1], value.rows[0][2], value.rows[1][0], value.rows[1][1],
-              value.rows[1][2], value.rows[2][0], value.rows[2][1], value.rows[2][2]);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Vector3& value) {
-    WriteBits(value.x, value.y, value.z);
-}
-
-template <class Bytes>
 void ByteFileArchive<Bytes>::Write(Label, const char16_t* text, int) {
-    const int length = GetLength(text);
-    WriteBits(length);
+    const std::int32_t length = GetLength(text);
+    WriteValue({}, length);
     if constexpr (std::endian::native == std::endian::big) {
-        std::for_each(text, text + length, [this](char16_t unit) { WriteBits(unit); });
+        std::for_each(text, text + length, [this](char16_t unit) { WriteValue({}, unit); });
     } else {
         bytes.Put(text, sizeof(char16_t), length);
     }
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const std::int64_t& value) {
-    WriteBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Bool& value) {
-    WriteBits(value.Byte());
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const double& value) {
-    WriteBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const float& value) {
-    WriteBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const std::int32_t& value) {
-    WriteBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const std::uint32_t& value) {
-    WriteBits(value);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label label, const SingleLineArchivable& value) {
-    value.Write(label, *this);
-}
-
-template <class Bytes>
-void ByteFileArchive<Bytes>::Write(Label, const Archivable& value) {
-    value.Write(*this);
 }
 
 } // namespace Vorn

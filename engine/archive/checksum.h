@@ -29,7 +29,7 @@ inline std::uint32_t FloatCheckSum(float value) {
 
 // The sum of the check sums of several floats.
 template <std::size_t N>
-VORN_ALWAYS_INLINE std::uint32_t FloatCheckSum(const std::array<float, N>& values) {
+VORN_ALWAYS_INLINE std::uint32_t CheckSumOf(const std::array<float, N>& values) {
     std::uint32_t sum = 0;
     std::size_t i = 0;
 #ifdef VORN_HAS_SSE2
@@ -57,6 +57,16 @@ VORN_ALWAYS_INLINE std::uint32_t FloatCheckSum(const std::array<float, N>& value
 #endif
     for (; i < N; ++i) {
         sum += FloatCheckSum(values[i]);
+    }
+    return sum;
+}
+
+// The plain sum of whole numbers.
+template <std::size_t N>
+VORN_ALWAYS_INLINE std::uint32_t CheckSumOf(const std::array<std::int32_t, N>& values) {
+    std::uint32_t sum = 0;
+    for (const std::int32_t value : values) {
+        sum += static_cast<std::uint32_t>(value);
     }
     return sum;
 }

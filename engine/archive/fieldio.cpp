@@ -16,7 +16,7 @@ constexpr float kDegreesPerRadian = 57.295776f;
 
 void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& table) {
     EnumText text;
-    if (observer != nullptr) [[unlikely]] {
+    if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
         observer->OnEnum(table);
     }
     if (reading) {
@@ -31,7 +31,7 @@ void FieldIo::EnumNumber(Label label, std::int32_t& value, const EnumTable& tabl
 }
 
 void FieldIo::Degrees(Label label, float& radians) {
-    if (observer != nullptr) [[unlikely]] {
+    if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
         observer->OnDegrees();
     }
     if (reading) {
@@ -44,7 +44,7 @@ void FieldIo::Degrees(Label label, float& radians) {
 }
 
 void FieldIo::Block(class Record& block) {
-    if (observer != nullptr) [[unlikely]] {
+    if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
         observer->OnBlock(block);
         block.Fields(*this);
         observer->OnBlockEnd();
@@ -60,7 +60,7 @@ void FieldIo::ReportTooMany(Label countLabel, std::int32_t count, std::int32_t a
 }
 
 std::int32_t FieldIo::ReadCount(const ListShape& list, std::int32_t start) {
-    if (observer != nullptr) [[unlikely]] {
+    if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
         observer->OnList(list);
     }
     auto count = static_cast<std::uint32_t>(start);

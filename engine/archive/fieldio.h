@@ -22,8 +22,7 @@ class FieldIo {
 public:
     enum class Direction : bool { Read, Write };
 
-    FieldIo(Archive& _archive, Direction direction)
-        : archive(_archive), observer(_archive.GetObserver()), reading(direction == Direction::Read) {}
+    FieldIo(Archive& _archive, Direction direction) : archive(_archive), reading(direction == Direction::Read) {}
     FieldIo(const FieldIo&) = delete;
     FieldIo& operator=(const FieldIo&) = delete;
 
@@ -36,7 +35,7 @@ public:
     // Whether the fields that came with version `threshold` are there: always in what is written, and in files of that
     // version or later.
     bool Since(std::int32_t threshold) const {
-        if (observer != nullptr) [[unlikely]] {
+        if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
             observer->OnVersion(threshold);
         }
         return !reading || archive.GetVersion() >= threshold;
@@ -63,7 +62,8 @@ public:
     // The capacity of the field is that of its member.
     template <int N>
     void String(Label label, FixedString<N>& text, NameKind kind = NameKind::None) {
-        if (observer != nullptr && kind != NameKind::None) [[unlikely]] {
+        if (FieldObserver* observer = archive.GetObserver(); observer != nullptr && kind != NameKind::None)
+            [[unlikely]] {
             observer->OnName(kind);
         }
         if (reading) {
@@ -218,6 +218,7 @@ public:
     // Calls `entry` with 0 to count - 1, and stops early once the archive is exhausted.
     template <class Entry>
     void ReadEntries(std::int32_t count, Entry entry) {
+        FieldObserver* const observer = archive.GetObserver();
         for (std::int32_t i = 0; i < count && !archive.IsExhausted(); ++i) {
             if (observer != nullptr && !observer->OnEntry(i)) [[unlikely]] {
                 break;
@@ -263,8 +264,6 @@ private:
     static void ReportTooMany(Label countLabel, std::int32_t count, std::int32_t allowed);
 
     Archive& archive;
-    // Follows what is read; null while writing counts too, since it asks for nothing.
-    FieldObserver* const observer;
     const bool reading;
 };
 

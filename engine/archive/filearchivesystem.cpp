@@ -3,7 +3,6 @@
 #include "engine/archive/archiveheader.h"
 #include "engine/archive/archiveversion.h"
 #include "engine/archive/binaryfilearchive.h"
-#include "engine/archive/steamfilearchive.h"
 #include "engine/archive/textfilearchive.h"
 #include "engine/core/reporting.h"
 
@@ -97,7 +96,7 @@ FileArchive* FileArchiveSystem::Make(File* file, FileArchiveType type, bool hasF
     case FileArchiveType::Binary:
         return new BinaryFileArchive(file, hasFloatBits);
     case FileArchiveType::Steam:
-        return remoteStorage != nullptr ? new SteamFileArchive(*remoteStorage, hasFloatBits) : nullptr;
+        return remoteStorage != nullptr ? remoteStorage->Make(hasFloatBits) : nullptr;
     default:
         return nullptr;
     }

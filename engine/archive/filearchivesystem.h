@@ -5,7 +5,12 @@
 
 namespace Vorn {
 
-class RemoteStorage;
+// Makes archives of a form that has no file of its own.
+class ArchiveMaker {
+public:
+    virtual ~ArchiveMaker() = default;
+    virtual FileArchive* Make(bool hasFloatBits) = 0;
+};
 
 // The one place where a file becomes an archive: it tells a file's form, skips or writes the header and handles the
 // version. A loader names only a path, so that text and binary files stand for each other everywhere.
@@ -21,8 +26,8 @@ public:
     // Null, after a report, for a file that is neither form. A file that cannot be opened ends the process abnormally.
     FileArchive* OpenForRead(std::u16string_view fileName, bool hasFloatBits);
 
-    // Null, after a report, if the file cannot be opened. The Steam form has no file, header or version: it lies in the
-    // remote storage, and null comes back where none was set.
+    // Null, after a report, if the file cannot be opened. The Steam form has no file, header or version: its archives
+    // are those of the remote storage, and null comes back where none was set.
     FileArchive* OpenForWrite(std::u16string_view fileName, bool hasFloatBits, FileArchiveType type);
 
     // Closes the file, destroys the archive and clears the pointer; does nothing on null.
@@ -32,7 +37,7 @@ public:
     void Destroy(FileArchive*& archive);
 
     // The storage behind archives of the Steam form, not owned.
-    void SetRemoteStorage(RemoteStorage* storage) { remoteStorage = storage; }
+    void SetRemoteStorage(ArchiveMaker* storage) { remoteStorage = storage; }
 
     // Makes and counts the archive of a file that stands behind its header; null for an unknown type.
     FileArchive* Create(File* file, FileArchiveType type, bool hasFloatBits);
@@ -51,7 +56,7 @@ private:
 
     FileSystem& fileSystem;
     const FieldContext& context;
-    RemoteStorage* remoteStorage = nullptr;
+    ArchiveMaker* remoteStorage = nullptr;
     std::int32_t fileArchiveCount = 0;
 };
 

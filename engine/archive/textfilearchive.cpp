@@ -1,14 +1,11 @@
 #include "engine/archive/textfilearchive.h"
 
+#include "engine/archive/archiveform_impl.h"
 #include "engine/archive/checksum.h"
-#include "engine/core/reporting.h"
-#include "engine/string/ascii.h"
-#include "engine/string/plainscan.h"
+#include "engine/archive/textline.h"
 #include "engine/string/scan.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 
 namespace Vorn {
 
@@ -35,10 +32,10 @@ bool CheckResult(int stored, int expected) {
 }
 
 // The forms of values, for both kinds of scanner.
-struct PointForm {
+struct PairForm {
     template <class AnyScanner>
-    static void Scan(AnyScanner& scanner, Point& value) {
-        scanner.Literal(u'[').Blank().Int(value.x).Blank().Literal(u',').Blank().Int(value.y).Blank().Literal(u']');
+    static void Scan(AnyScanner& scanner, std::array<std::int32_t, 2>& value) {
+        scanner.Literal(u'[').Blank().Int(value[0]).Blank().Literal(u',').Blank().Int(value[1]).Blank().Literal(u']');
     }
 };
 
@@ -59,8 +56,8 @@ struct ExtentForm {
 
 struct IntForm {
     template <class AnyScanner>
-    static void Scan(AnyScanner& scanner, std::int32_t& value) {
-        scanner.Int(value);
+    static void Scan(AnyScanner& scanner, std::array<std::int32_t, 1>& value) {
+        scanner.Int(value[0]);
     }
 };
 
@@ -73,18 +70,15 @@ struct HexForm {
 
 struct FloatForm {
     template <class AnyScanner>
-    static void Scan(AnyScanner& scanner, float& value) {
-        scanner.Float(value);
+    static void Scan(AnyScanner& scanner, std::array<float, 1>& value) {
+        scanner.Float(value[0]);
     }
 };
-
-template <std::size_t N>
-using Floats = std::array<float, N>;
 
 // A Vector3, a Quad and a matrix row.
 struct FloatsForm {
     template <class AnyScanner, std::size_t N>
-    static void Scan(AnyScanner& scanner, Floats<N>& values) {
+    static void Scan(AnyScanner& scanner, std::array<float, N>& values) {
         scanner.Literal(u'[');
         for (float& value : values) {
             scanner.Blank().Float(value);
@@ -97,10 +91,10 @@ std::int32_t BitsOf(float value) {
     return std::bit_cast<std::int32_t>(value);
 }
 
-// The same with the bits behind them, which replace the decimals.
+// Floats with their bits behind them, which replace the decimals.
 template <std::size_t N>
-void ScanFloatBits(Scanner& scanner, Floats<N>& values) {
-    Floats<N> decimals{};
+void ScanFloatBits(Scanner& scanner, std::array<float, N>& values) {
+    std::array<float, N> decimals{};
     FloatsForm::Scan(scanner.Blank(), decimals);
     scanner.Blank().Word(u"Bits=[");
     for (float& value : values) {
@@ -110,89 +104,32 @@ void ScanFloatBits(Scanner& scanner, Floats<N>& values) {
     }
 }
 
+// Decimals, short as they need not be exact, and then the bits.
+template <class Line, std::size_t N>
+void PutFloatBits(Line& line, const std::array<float, N>& values) {
+    line.Literal(" [");
+    for (const float value : values) {
+        line.Literal(" ").Double(static_cast<double>(value), 2);
+    }
+    line.Literal(" ] Bits=[ ");
+    for (const float& value : values) {
+        line.Int(BitsOf(value));
+        if (&value != &values.back()) {
+            line.Literal(" , ");
+        }
+    }
+    line.Literal(" ]");
+}
+
 } // namespace
 
-// Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
-void TextFileArchive::TakeLine() {
-    KeepPlainLine();
-    const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
-    if (isFresh) {
-        EndIdleRead();
-    } else {
-        CountIdleRead();
-    }
-    ++lineNumber;
-    m_CurrentLineUnread = false;
-    takesPlainLines = isFresh;
-}
+TextFileArchive::TextFileArchive(File* _file, bool _hasFloatBits) : ArchiveForm(_file, _hasFloatBits) {}
 
-std::u16string_view TextFileArchive::RestOfLine(const char16_t* text) const {
-    return {text, static_cast<std::size_t>(currentLine.Units() + currentLineLength - text)};
-}
+TextFileArchive::~TextFileArchive() = default;
 
-// The value behind the label of the next line, or null after a report.
-const char16_t* TextFileArchive::FindLabel(Label label) {
-    TakeLine();
-    const char16_t* start = SkipWhiteSpace(currentLine.Units());
-    const auto remaining = static_cast<std::size_t>(currentLine.Units() + kLineCapacity - 1 - start);
-    if (label.size() <= remaining && std::memcmp(start, label.data(), label.size() * sizeof(char16_t)) == 0 &&
-        IsWhiteSpace(start[label.size()])) [[likely]] {
-        return SkipWhiteSpace(start + label.size());
-    }
-    ReportMissingLabel(label);
-    m_CurrentLineUnread = true;
-    takesPlainLines = false;
-    return nullptr;
-}
-
-void TextFileArchive::ReportMissingLabel(Label label) const {
-    ReportError(u"Text FileArchive missing Label.\n\nFile: %s\nLabel: %s\nLine Number:%d\nLine Contents:%s\n",
-                file->GetName(), label, lineNumber, currentLine);
-}
-
-void TextFileArchive::ReportMissingQuote(Label label) const {
-    ReportErrorAt(u"\" not found wrapping data string: %s\nFileName: %s\nLine #: %d\nLine Content: %s", label,
-                  file->GetName(), lineNumber, currentLine);
-}
-
-// Takes a line whole from the file's bytes if it has the label and behind it what `scan` takes, all in the form that
-// this class writes. Says false and takes nothing for every other line, which then goes the general road.
-template <class Scan>
-VORN_ALWAYS_INLINE bool TextFileArchive::TakePlain(Label label, Scan scan) {
-    static_assert(kLongestPlainLine <= kLineCapacity);
-    if (!takesPlainLines || !file->HasPlainText()) [[unlikely]] {
-        return false;
-    }
-    const char* start = file->PeekText();
-    PlainScanner scanner(start);
-    scan(scanner.Tabs().Word(label));
-    if (!scanner.LineEnd()) [[unlikely]] {
-        return false;
-    }
-    file->SkipText(scanner.Cursor());
-    plainLine = start;
-    ++lineNumber;
-    return true;
-}
-
-// The line that was taken last becomes the current one, as if it had come by the general road.
-void TextFileArchive::KeepPlainLine() {
-    if (plainLine == nullptr) {
-        return;
-    }
-    std::string_view line(plainLine, static_cast<std::size_t>(file->PeekText() - plainLine));
-    line.remove_suffix(line.ends_with("\r\n") ? 2 : 1);
-    char16_t* units = currentLine.Buffer().m_Buffer;
-    char16_t* end = std::copy(line.begin(), line.end(), units);
-    *end++ = u'\n';
-    *end = u'\0';
-    currentLineLength = static_cast<int>(end - units);
-    plainLine = nullptr;
-}
-
-// Reads a value by its form the general road and returns how many fields were stored, or kNoLabel.
+// Reads a value by its form and returns how many fields were stored, or kNoLabel.
 template <class Form, class Value>
-int TextFileArchive::ScanForm(Label label, Value& value) {
+VORN_RARE int TextFileArchive::ScanForm(Label label, Value& value) {
     const char16_t* text = FindLabel(label);
     if (text == nullptr) {
         return kNoLabel;
@@ -202,133 +139,157 @@ int TextFileArchive::ScanForm(Label label, Value& value) {
     return scanner.Stored();
 }
 
-// Reads a value of as many fields by its form. Calls `take` with it if there was a label.
-template <class Form, class Value, class Take>
-VORN_ALWAYS_INLINE void TextFileArchive::ReadForm(Label label, const Value& start, int fields, Take take) {
-    Value value = start;
-    if (TakePlain(label, [&](PlainScanner& scanner) { Form::Scan(scanner.Blank(), value); })) [[likely]] {
-        take(value);
-    } else {
-        ReadFormSlowly<Form>(label, start, fields, take);
+// Reads a value of as many fields by its form; false if there was no label.
+template <class Form, class Value>
+VORN_ALWAYS_INLINE bool TextFileArchive::ReadForm(Label label, Value& value, int fields) {
+    Value plain;
+    if (ReadPlainLine(label, [&](PlainScanner& scanner) { Form::Scan(scanner.Blank(), plain); })) [[likely]] {
+        value = plain;
+        return true;
     }
-}
-
-template <class Form, class Value, class Take>
-VORN_RARE void TextFileArchive::ReadFormSlowly(Label label, Value value, int fields, Take take) {
-    if (CheckResult(ScanForm<Form>(label, value), fields)) {
-        take(value);
-    }
-}
-
-template <std::size_t N, class Take>
-VORN_ALWAYS_INLINE void TextFileArchive::ReadFloats(Label label, const Floats<N>& start, Take take) {
-    const auto takeAll = [this, take](const Floats<N>& values) {
-        take(values);
-        checkSum += FloatCheckSum(values);
-    };
-    if (!hasFloatBits) [[likely]] {
-        ReadForm<FloatsForm>(label, start, N, takeAll);
-    } else if (const char16_t* text = FindLabel(label)) {
-        Scanner scanner(RestOfLine(text));
-        Floats<N> values = start;
-        ScanFloatBits(scanner, values);
-        CheckResult(scanner.Stored(), 2 * static_cast<int>(N));
-        takeAll(values);
-    }
-}
-
-template <class... Ints>
-VORN_ALWAYS_INLINE void TextFileArchive::AddInts(Ints... ints) {
-    checkSum += (static_cast<std::uint32_t>(ints) + ...);
-}
-
-// A row takes a line of its own, whatever stands there.
-template <std::size_t N>
-void TextFileArchive::ReadRow(float (&row)[N]) {
-    TakeLine();
-    Scanner scanner({currentLine.Units(), static_cast<std::size_t>(currentLineLength)});
-    Floats<N> values = std::to_array(row);
-    if (hasFloatBits) {
-        ScanFloatBits(scanner, values);
-    } else {
-        FloatsForm::Scan(scanner.Blank(), values);
-    }
-    CheckResult(scanner.Stored(), static_cast<int>(hasFloatBits ? 2 * N : N));
-    std::copy(values.begin(), values.end(), row);
-    checkSum += FloatCheckSum(values);
+    return CheckResult(ScanForm<Form>(label, value), fields);
 }
 
 template <std::size_t N>
-void TextFileArchive::ReadRows(Label label, float (&rows)[N][N]) {
-    if (FindRecord(label)) {
-        for (float(&row)[N] : rows) {
-            ReadRow(row);
-        }
+VORN_RARE bool TextFileArchive::ReadFloatBits(Label label, std::array<float, N>& values) {
+    const char16_t* text = FindLabel(label);
+    if (text == nullptr) {
+        return false;
     }
+    Scanner scanner(RestOfLine(text));
+    ScanFloatBits(scanner, values);
+    CheckResult(scanner.Stored(), 2 * static_cast<int>(N));
+    return true;
 }
 
 // The line of a label alone.
 VORN_ALWAYS_INLINE bool TextFileArchive::FindRecord(Label label) {
-    return TakePlain(label, [](PlainScanner&) {}) || FindLabel(label) != nullptr;
+    return ReadPlainLine(label, [](PlainScanner&) {}) || FindLabel(label) != nullptr;
 }
 
-void TextFileArchive::Read(Label label, Color& value) {
+template <WordValue Value>
+VORN_ALWAYS_INLINE void TextFileArchive::ReadValue(Label label, Value& value) {
+    Words<Value> words = ToWords(value);
+    constexpr int kFields = static_cast<int>(words.size());
+    bool isRead = false;
+    if constexpr (kIsInts<Value>) {
+        isRead = ReadForm<std::conditional_t<kFields == 1, IntForm, PairForm>>(label, words, kFields);
+    } else {
+        isRead = hasFloatBits ? ReadFloatBits(label, words) : ReadForm<FloatsForm>(label, words, kFields);
+    }
+    if (isRead) {
+        value = FromWords<Value>(words);
+        checkSum += CheckSumOf(words);
+    }
+}
+
+// Each row has a line of its own, which is read whatever stands there.
+template <MatrixValue Value>
+void TextFileArchive::ReadValue(Label label, Value& value) {
+    if (!FindRecord(label)) {
+        return;
+    }
+    for (auto& row : value.rows) {
+        TakeLine();
+        Scanner scanner(CurrentLine());
+        auto words = std::to_array(row);
+        if (hasFloatBits) {
+            ScanFloatBits(scanner, words);
+        } else {
+            FloatsForm::Scan(scanner.Blank(), words);
+        }
+        CheckResult(scanner.Stored(), static_cast<int>(hasFloatBits ? 2 * words.size() : words.size()));
+        std::copy(words.begin(), words.end(), row);
+        checkSum += CheckSumOf(words);
+    }
+}
+
+void TextFileArchive::ReadValue(Label label, float& value) {
+    std::array<float, 1> words = {value};
+    if (!hasFloatBits) [[likely]] {
+        if (!ReadForm<FloatForm>(label, words, 1)) {
+            return;
+        }
+    } else if (const char16_t* text = FindLabel(label)) {
+        Scanner scanner(RestOfLine(text));
+        float decimals = 0.0f;
+        std::int32_t bits = BitsOf(value);
+        scanner.Float(decimals).Blank().Word(u"Bits=").Int(bits);
+        CheckResult(scanner.Stored(), 2);
+        words[0] = std::bit_cast<float>(bits);
+    } else {
+        return;
+    }
+    value = words[0];
+    checkSum += FloatCheckSum(value);
+}
+
+void TextFileArchive::ReadValue(Label label, Color& value) {
     std::uint32_t packed = 0;
-    if (TakePlain(label, [&](PlainScanner& scanner) { HexForm::Scan(scanner.Blank(), packed); }) ||
+    if (ReadPlainLine(label, [&](PlainScanner& scanner) { HexForm::Scan(scanner.Blank(), packed); }) ||
         ScanForm<HexForm>(label, packed) == 1) {
         value = Color::FromUInt(packed);
     }
 }
 
-void TextFileArchive::Read(Label label, Rectangle& value) {
-    ReadForm<ExtentForm>(label, Extent{}, 4, [this, &value](const Extent& extent) {
+void TextFileArchive::ReadValue(Label label, Rectangle& value) {
+    Extent extent;
+    if (ReadForm<ExtentForm>(label, extent, 4)) {
         value = Rectangle::FromExtent(extent.x, extent.y, extent.width, extent.height);
-        AddInts(value.left, value.right, value.bottom, value.top);
-    });
+        checkSum += CheckSumOf(ToWords(value));
+    }
 }
 
-void TextFileArchive::Read(Label label, Size& value) {
-    Point point{value.width, value.height};
-    Read(label, point);
-    value = {point.x, point.y};
+void TextFileArchive::ReadValue(Label label, std::int64_t& value) {
+    if (const char16_t* text = FindLabel(label)) {
+        CheckResult(Scanner(RestOfLine(text)).Int64(value).Stored(), 1);
+    }
 }
 
-void TextFileArchive::Read(Label label, Point& value) {
-    ReadForm<PointForm>(label, value, 2, [this, &value](const Point& point) {
-        value = point;
-        AddInts(value.x, value.y);
-    });
+void TextFileArchive::ReadValue(Label label, Bool& value) {
+    const char16_t* text = FindLabel(label);
+    if (text == nullptr) {
+        return;
+    }
+    const std::u16string_view word = RestOfLine(text);
+    if (word.find(u"TRUE") != std::u16string_view::npos) {
+        value = true;
+    } else if (word.find(u"FALSE") != std::u16string_view::npos) {
+        value = false;
+    } else {
+        CheckAssert(false, "false");
+    }
+    checkSum += value ? 1 : 0;
 }
 
-void TextFileArchive::Read(Label label, Quad& value) {
-    ReadFloats(label, Floats<4>{value.x, value.y, value.z, value.w}, [&value](const Floats<4>& values) {
-        value = {values[0], values[1], values[2], values[3]};
-    });
-}
-
-void TextFileArchive::Read(Label label, Matrix44& value) {
-    ReadRows(label, value.rows);
-}
-
-void TextFileArchive::Read(Label label, Matrix33& value) {
-    ReadRows(label, value.rows);
-}
-
-void TextFileArchive::Read(Label label, Vector3& value) {
-    ReadFloats(label, Floats<3>{value.x, value.y, value.z}, [&value](const Floats<3>& values) {
-        value = {values[0], values[1], values[2]};
-    });
+void TextFileArchive::ReadValue(Label label, double& value) {
+    const char16_t* text = FindLabel(label);
+    if (text == nullptr) {
+        return;
+    }
+    Scanner scanner(RestOfLine(text));
+    if (hasFloatBits) {
+        double decimals = 0.0;
+        auto bits = std::bit_cast<std::int64_t>(value);
+        scanner.Double(decimals).Blank().Word(u"Bits=").Int64(bits);
+        value = std::bit_cast<double>(bits);
+    } else {
+        scanner.Double(value);
+    }
+    CheckResult(scanner.Stored(), hasFloatBits ? 2 : 1);
+    checkSum += DoubleCheckSum(value);
 }
 
 void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
-    if (TakePlain(label, [&](PlainScanner& scanner) { scanner.Blank().Quoted(buffer, bufferSize); })) {
+    if (ReadPlainLine(label, [&](PlainScanner& scanner) { scanner.Blank().Quoted(buffer, bufferSize); })) {
         return;
     }
     const char16_t* text = FindLabel(label);
     if (text == nullptr) {
         return;
     }
-    const char16_t* end = currentLine.Units() + currentLineLength;
+    const std::u16string_view rest = RestOfLine(text);
+    const char16_t* end = rest.data() + rest.size();
     const char16_t* opening = FindUnit(text, end, u'"');
     buffer[0] = u'\0';
     if (opening == end) {
@@ -349,81 +310,6 @@ void TextFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
     }
 }
 
-void TextFileArchive::Read(Label label, std::int64_t& value) {
-    if (const char16_t* text = FindLabel(label)) {
-        CheckResult(Scanner(RestOfLine(text)).Int64(value).Stored(), 1);
-    }
-}
-
-void TextFileArchive::Read(Label label, Bool& value) {
-    const char16_t* text = FindLabel(label);
-    if (text == nullptr) {
-        return;
-    }
-    const std::u16string_view word = RestOfLine(text);
-    if (word.find(u"TRUE") != std::u16string_view::npos) {
-        value = true;
-    } else if (word.find(u"FALSE") != std::u16string_view::npos) {
-        value = false;
-    } else {
-        CheckAssert(false, "false");
-    }
-    checkSum += value ? 1 : 0;
-}
-
-void TextFileArchive::Read(Label label, double& value) {
-    const char16_t* text = FindLabel(label);
-    if (text == nullptr) {
-        return;
-    }
-    Scanner scanner(RestOfLine(text));
-    if (hasFloatBits) {
-        double decimals = 0.0;
-        auto bits = std::bit_cast<std::int64_t>(value);
-        scanner.Double(decimals).Blank().Word(u"Bits=").Int64(bits);
-        value = std::bit_cast<double>(bits);
-    } else {
-        scanner.Double(value);
-    }
-    CheckResult(scanner.Stored(), hasFloatBits ? 2 : 1);
-    checkSum += DoubleCheckSum(value);
-}
-
-void TextFileArchive::Read(Label label, float& value) {
-    if (!hasFloatBits) [[likely]] {
-        ReadForm<FloatForm>(label, value, 1, [this, &value](float read) {
-            value = read;
-            checkSum += FloatCheckSum(read);
-        });
-    } else if (const char16_t* text = FindLabel(label)) {
-        Scanner scanner(RestOfLine(text));
-        float decimals = 0.0f;
-        std::int32_t bits = BitsOf(value);
-        scanner.Float(decimals).Blank().Word(u"Bits=").Int(bits);
-        CheckResult(scanner.Stored(), 2);
-        value = std::bit_cast<float>(bits);
-        checkSum += FloatCheckSum(value);
-    }
-}
-
-void TextFileArchive::Read(Label label, std::int32_t& value) {
-    ReadForm<IntForm>(label, value, 1, [this, &value](std::int32_t read) {
-        value = read;
-        AddInts(read);
-    });
-}
-
-void TextFileArchive::Read(Label label, std::uint32_t& value) {
-    ReadForm<IntForm>(label, static_cast<std::int32_t>(value), 1, [this, &value](std::int32_t read) {
-        value = static_cast<std::uint32_t>(read);
-        AddInts(read);
-    });
-}
-
-void TextFileArchive::Read(Label label, SingleLineArchivable& value) {
-    value.Read(label, *this);
-}
-
 void TextFileArchive::Read(Label label, Archivable& value, std::int32_t _version) {
     if (FindRecord(label)) {
         value.Read(*this, _version);
@@ -434,6 +320,115 @@ void TextFileArchive::Read(Label label, Archivable& value) {
     if (FindRecord(label)) {
         value.Read(*this);
     }
+}
+
+// Writes a line of a label and what `put` puts behind it.
+template <class Put>
+VORN_ALWAYS_INLINE void TextFileArchive::WriteLine(Label label, Put put) {
+    TextLine<LineContent::Plain> line(*file, m_TabDepth, label);
+    put(line);
+    if (!line.End()) [[unlikely]] {
+        WriteLineSlowly(label, put);
+    }
+}
+
+template <class Put>
+VORN_RARE void TextFileArchive::WriteLineSlowly(Label label, Put put) {
+    TextLine<LineContent::Any> line(*file, m_TabDepth, label);
+    put(line);
+    line.End();
+}
+
+template <std::size_t N>
+VORN_ALWAYS_INLINE void TextFileArchive::WriteFloats(Label label, const std::array<float, N>& values) {
+    if (hasFloatBits) [[unlikely]] {
+        WriteLineSlowly(label, [&values](auto& line) { PutFloatBits(line, values); });
+        return;
+    }
+    WriteLine(label, [values](auto& line) {
+        line.Literal(" [");
+        for (const float value : values) {
+            line.Literal(" ").Float(value);
+        }
+        line.Literal(" ]");
+    });
+}
+
+template <WordValue Value>
+VORN_ALWAYS_INLINE void TextFileArchive::WriteValue(Label label, const Value& value) {
+    const Words<Value> words = ToWords(value);
+    if constexpr (kIsFloats<Value>) {
+        WriteFloats(label, words);
+    } else if constexpr (words.size() == 1) {
+        WriteLine(label, [words](auto& line) { line.Literal(" ").Int(words[0]); });
+    } else {
+        WriteLine(label, [words](auto& line) {
+            line.Literal(" [ ").Int(words[0]).Literal(" , ").Int(words[1]).Literal(" ]");
+        });
+    }
+}
+
+template <MatrixValue Value>
+void TextFileArchive::WriteValue(Label label, const Value& value) {
+    CheckAssert(label.data() != nullptr, "label != NULL");
+    WriteLine(label, [](auto&) {});
+    ++m_TabDepth;
+    for (const auto& row : value.rows) {
+        WriteFloats({}, std::to_array(row));
+    }
+    CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");
+    --m_TabDepth;
+}
+
+void TextFileArchive::WriteValue(Label label, const float& value) {
+    if (hasFloatBits) [[unlikely]] {
+        WriteLineSlowly(label, [value](auto& line) {
+            line.Literal(" ").Double(static_cast<double>(value), 2).Literal(" Bits=").Int(BitsOf(value));
+        });
+        return;
+    }
+    WriteLine(label, [value](auto& line) { line.Literal(" ").Float(value); });
+}
+
+void TextFileArchive::WriteValue(Label label, const Color& value) {
+    WriteLine(label, [packed = value.ToUInt()](auto& line) { line.Literal(" ").Hex(packed); });
+}
+
+void TextFileArchive::WriteValue(Label label, const Rectangle& value) {
+    WriteLine(label, [value](auto& line) {
+        line.Literal(" [ ").Int(value.left).Literal(" , ").Int(value.top).Literal(" , ");
+        line.Int(value.Width()).Literal(" , ").Int(value.Height()).Literal(" ]");
+    });
+}
+
+void TextFileArchive::WriteValue(Label label, const std::int64_t& value) {
+    WriteLineSlowly(label, [value](auto& line) { line.Literal(" ").Int64(value); });
+}
+
+void TextFileArchive::WriteValue(Label label, const Bool& value) {
+    WriteLine(label, [value](auto& line) { line.Text(value ? u" TRUE" : u" FALSE"); });
+}
+
+void TextFileArchive::WriteValue(Label label, const double& value) {
+    WriteLineSlowly(label, [value, this](auto& line) {
+        if (hasFloatBits) {
+            line.Literal(" ").Double(value, 2).Literal(" Bits=").Int64(std::bit_cast<std::int64_t>(value));
+        } else {
+            line.Literal(" ").Double(value);
+        }
+    });
+}
+
+void TextFileArchive::Write(Label label, const char16_t* text, int) {
+    WriteLine(label, [text](auto& line) { line.Literal(" \"").Text(text).Literal("\""); });
+}
+
+void TextFileArchive::Write(Label label, const Archivable& value) {
+    WriteLine(label, [](auto&) {});
+    ++m_TabDepth;
+    value.Write(*this);
+    CheckAssert(m_TabDepth > 0, "m_TabDepth > 0");
+    --m_TabDepth;
 }
 
 } // namespace Vorn

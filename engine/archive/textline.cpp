@@ -8,15 +8,18 @@
 
 namespace Vorn {
 
-TextLine& TextLine::PutEncoded(std::u16string_view text) {
+template <LineContent kContent>
+char* TextLine<kContent>::PutEncoded(std::u16string_view text) {
+    text = text.substr(0, kCapacity);
     char* end = EncodeUtf8(cursor, text);
     extraBytes += end - cursor - static_cast<std::ptrdiff_t>(text.size());
     hasLineFeed = hasLineFeed || text.find(u'\n') != std::u16string_view::npos;
-    return Put(end);
+    return end;
 }
 
-// The road of lines that are too long or have line feeds inside: back to units, cut, and printed as text.
-void TextLine::EndLong() {
+// A line that is too long or has line feeds inside goes back to units, is cut, and is printed as text.
+template <LineContent kContent>
+void TextLine<kContent>::EndLong() {
     const std::u16string whole = NameFromBytes({start, static_cast<std::size_t>(cursor - start)});
     const std::u16string_view line = std::u16string_view(whole).substr(0, kCapacity - 1);
     CheckAssert(line.size() == whole.size(), "! FAILED( hr )");
@@ -24,5 +27,7 @@ void TextLine::EndLong() {
     file.PrintText(line);
     file.PrintText(u"\n");
 }
+
+template class TextLine<LineContent::Any>;
 
 } // namespace Vorn

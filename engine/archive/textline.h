@@ -1,65 +1,28 @@
 #pragma once
 
-#include "engine/archive/archive.h"
+#include "engine/archive/label.h"
 #include "engine/file/file.h"
 #include "engine/string/ascii.h"
 #include "engine/string/numbertext.h"
 
 namespace Vorn {
 
-// A line as nearly all are: a label of plain text and numbers of a few digits, which always fit. A step that meets
-// anything else makes the line bad, and the caller builds it again as TextLine.
-class PlainLine {
-public:
-    // A place from File::BeginPlainLine.
-    explicit PlainLine(char* start) : cursor(start) {}
-
-    VORN_ALWAYS_INLINE PlainLine& Text(std::u16string_view text) {
-        if (text.size() > kLongestText || !NarrowAscii(text.data(), text.size(), cursor)) [[unlikely]] {
-            return Fail();
-        }
-        return Put(cursor + text.size());
-    }
-    template <std::size_t N>
-    VORN_ALWAYS_INLINE PlainLine& Literal(const char (&text)[N]) {
-        std::memcpy(cursor, text, N - 1);
-        return Put(cursor + N - 1);
-    }
-    VORN_ALWAYS_INLINE PlainLine& Int(std::int32_t value) {
-        return PlainNumber::FitsInt(value) ? Put(PlainNumber::PutInt(cursor, value)) : Fail();
-    }
-    VORN_ALWAYS_INLINE PlainLine& Hex(std::uint32_t value) { return Put(PutHex(cursor, value)); }
-    VORN_ALWAYS_INLINE PlainLine& Float(float value) {
-        return PlainNumber::FitsFixed6(value) ? Put(PlainNumber::PutFixed6(cursor, value)) : Fail();
-    }
-
-    // Ends the line and returns where, or null for a bad one.
-    VORN_ALWAYS_INLINE char* End() { return isGood ? Literal("\r\n").cursor : nullptr; }
-
-private:
-    static constexpr std::size_t kLongestText = 256;
-
-    VORN_ALWAYS_INLINE PlainLine& Put(char* end) {
-        cursor = end;
-        return *this;
-    }
-    VORN_ALWAYS_INLINE PlainLine& Fail() {
-        isGood = false;
-        return *this;
-    }
-
-    char* cursor;
-    bool isGood = true;
+enum class LineContent : bool {
+    // Plain text and short numbers, as in nearly all lines. Anything else makes the line bad, and it is built anew; so
+    // nothing of it has to be kept for a call, and it lives in registers.
+    Plain,
+    Any
 };
 
-// A line of a text archive on its way into a file, built in the file's own buffer. A line longer than its capacity is
-// cut at the end, with the check "! FAILED( hr )".
+// A line of a text archive while it is built in the file's own buffer: a label, at most one text beside it, and
+// numbers. A line longer than its capacity is cut at the end, with the check "! FAILED( hr )".
+template <LineContent kContent>
 class TextLine {
 public:
     // Units of a line without its indentation, terminator included.
     static constexpr int kCapacity = 1024;
 
-    TextLine(File& _file, int _indentation, Label label)
+    VORN_ALWAYS_INLINE TextLine(File& _file, int _indentation, Label label)
         : file(_file), indentation(_indentation), start(file.BeginLine(indentation)), cursor(start) {
         Text(label);
     }
@@ -67,48 +30,73 @@ public:
     TextLine& operator=(const TextLine&) = delete;
 
     // One text beside the label; each counts only as far as it alone would fill the line.
-    TextLine& Text(std::u16string_view text) {
-        text = text.substr(0, kCapacity);
-        if (NarrowAscii(text.data(), text.size(), cursor)) [[likely]] {
-            return Put(cursor + text.size());
+    VORN_ALWAYS_INLINE TextLine& Text(std::u16string_view text) {
+        if (text.size() > kLongestPlainText || !NarrowAscii(text.data(), text.size(), cursor)) [[unlikely]] {
+            return Else([&] { return PutEncoded(text); });
         }
-        return PutEncoded(text);
+        return Put(cursor + text.size());
     }
     template <std::size_t N>
-    TextLine& Literal(const char (&text)[N]) {
+    VORN_ALWAYS_INLINE TextLine& Literal(const char (&text)[N]) {
         std::memcpy(cursor, text, N - 1);
         return Put(cursor + N - 1);
     }
-    TextLine& Int(std::int32_t value) { return Put(PutInt(cursor, value)); }
-    TextLine& Int64(std::int64_t value) { return Put(PutInt64(cursor, value)); }
+    VORN_ALWAYS_INLINE TextLine& Int(std::int32_t value) {
+        return PlainNumber::FitsInt(value) ? Put(PlainNumber::PutInt(cursor, value))
+                                           : Else([&] { return PutInt(cursor, value); });
+    }
+    VORN_ALWAYS_INLINE TextLine& Float(float value) {
+        return PlainNumber::FitsFixed6(value) ? Put(PlainNumber::PutFixed6(cursor, value))
+                                              : Else([&] { return PutFixed6(cursor, value); });
+    }
     TextLine& Hex(std::uint32_t value) { return Put(PutHex(cursor, value)); }
-    TextLine& Float(float value) { return Put(PutFixed6(cursor, value)); }
+    TextLine& Int64(std::int64_t value) { return Put(PutInt64(cursor, value)); }
     TextLine& Double(double value, int places = 6) { return Put(PutFixed(cursor, value, places)); }
 
-    // Ends the line and hands it to the file.
-    void End() {
-        if (cursor - start - extraBytes >= kCapacity || hasLineFeed) [[unlikely]] {
-            EndLong();
-            return;
+    // Ends the line and hands it to the file. False for a bad line, of which nothing is kept.
+    VORN_ALWAYS_INLINE bool End() {
+        if constexpr (kContent == LineContent::Any) {
+            if (cursor - start - extraBytes >= kCapacity || hasLineFeed) {
+                EndLong();
+                return true;
+            }
+        }
+        if (isBad) [[unlikely]] {
+            return false;
         }
         std::memcpy(cursor, "\r\n", 2);
         file.CommitLine(cursor + 2);
+        return true;
     }
 
 private:
+    static constexpr std::size_t kLongestPlainText = 256;
+    static constexpr std::size_t kLongestPlainNumber = 32;
+    // A plain line always fits: label, text, and four numbers with what stands between them.
+    static_assert(2 * kLongestPlainText + 4 * kLongestPlainNumber < kCapacity);
     static_assert(File::kLineRoom >= 2 * kCapacity * kMaxUtf8PerUnit + 2 * kNumberTextCapacity);
 
-    TextLine& Put(char* end) {
+    VORN_ALWAYS_INLINE TextLine& Put(char* end) {
         cursor = end;
         return *this;
     }
-    TextLine& PutEncoded(std::u16string_view text);
+    // Puts what is not plain, where that may be.
+    template <class PutOther>
+    VORN_ALWAYS_INLINE TextLine& Else(PutOther putOther) {
+        if constexpr (kContent == LineContent::Any) {
+            return Put(putOther());
+        }
+        isBad = true;
+        return *this;
+    }
+    char* PutEncoded(std::u16string_view text);
     void EndLong();
 
     File& file;
     int indentation;
     char* start;
     char* cursor;
+    bool isBad = false;
     // Bytes over one for each unit so far.
     std::ptrdiff_t extraBytes = 0;
     bool hasLineFeed = false;

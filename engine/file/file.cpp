@@ -66,7 +66,7 @@ void File::PrintText(std::u16string_view text) {
     CheckAssert(PutText(text), "result >= 0");
 }
 
-char* File::BeginLine(int indentation) {
+char* File::BeginLineSlowly(int indentation) {
     CheckAssert(translation == FileTranslation::Text, "translation == FileTranslation::Text");
     const int tabs = std::clamp(indentation, 0, kMaxIndentation);
     bool written = true;

@@ -40,18 +40,15 @@ public:
 
     // A place in the buffer behind `indentation` tabs for the bytes of a line; CommitLine takes what was put there up
     // to `end`, and without it nothing is printed.
-    char* BeginLine(int indentation);
-    void CommitLine(char* end) { output.Commit(end); }
-
-    // BeginLine as nearly every line needs it. Null where there is more to do.
-    char* BeginPlainLine(int indentation) {
+    VORN_ALWAYS_INLINE char* BeginLine(int indentation) {
         const auto tabs = static_cast<unsigned>(indentation);
-        if (tabs > kTabs.size() || output.Room() < plainLineRoom + tabs) [[unlikely]] {
-            return nullptr;
+        if (tabs > kTabs.size() || output.Room() < lineRoom + tabs) [[unlikely]] {
+            return BeginLineSlowly(indentation);
         }
         std::memcpy(output.Cursor(), kTabs.data(), kTabs.size());
         return output.Cursor() + tabs;
     }
+    void CommitLine(char* end) { output.Commit(end); }
 
     // Reads a line into the buffer, line feed included; true at the end of the file, where the buffer keeps its
     // content. A line without its line feed, or one longer than the buffer, is reported and read as far as it goes.
@@ -122,6 +119,7 @@ private:
     bool Open(FileStore& store, std::u16string_view fullName);
     bool Flush() { return output.Flush(); }
     bool PutText(std::u16string_view text);
+    char* BeginLineSlowly(int indentation);
 
     // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
     static constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
@@ -133,7 +131,7 @@ private:
     LineReader lines{input};
     WriteBuffer output;
     // More than there ever is where no text belongs.
-    std::size_t plainLineRoom = translation == FileTranslation::Text ? kTabs.size() + kLineRoom : SIZE_MAX / 2;
+    std::size_t lineRoom = translation == FileTranslation::Text ? kTabs.size() + kLineRoom : SIZE_MAX / 2;
     FixedString<kNameCapacity> name;
 };
 

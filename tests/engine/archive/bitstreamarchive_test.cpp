@@ -1,4 +1,4 @@
-#include "engine/archive/bitstreamarchive.h"
+#include "engine/archive/further/bitstreamarchive.h"
 #include "engine/string/fixedstring.h"
 #include "tests/support/enginetest.h"
 

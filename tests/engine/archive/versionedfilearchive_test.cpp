@@ -1,4 +1,4 @@
-#include "engine/archive/versionedfilearchive.h"
+#include "engine/archive/further/versionedfilearchive.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {

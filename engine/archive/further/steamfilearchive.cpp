@@ -1,10 +1,12 @@
-#include "engine/archive/steamfilearchive.h"
+#include "engine/archive/further/steamfilearchive.h"
 
 #include "engine/archive/bytefilearchive_impl.h"
 
 namespace Vorn {
 
-template class ByteFileArchive<StorageBytes>;
+FileArchive* RemoteStorage::Make(bool hasFloatBits) {
+    return new SteamFileArchive(*this, hasFloatBits);
+}
 
 std::size_t StorageBytes::Left(int elementSize) const {
     return (RemoteStorage::kAreaSize - std::min(storage->GetPlace(), RemoteStorage::kAreaSize)) /

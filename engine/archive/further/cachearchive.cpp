@@ -1,6 +1,7 @@
-#include "engine/archive/cachearchive.h"
+#include "engine/archive/further/cachearchive.h"
 
 #include "engine/archive/binaryfilearchive.h"
+#include "engine/archive/bytefilearchive_impl.h"
 #include "engine/core/report.h"
 #include "engine/file/nativefile.h"
 
@@ -8,25 +9,28 @@
 
 namespace Vorn {
 
-enum class CacheArchive::Tag : std::uint32_t {
-    RecordStart,
-    RecordEnd,
-    Uint,
-    Int,
-    Float,
-    Double,
-    Bool,
-    Int64,
-    String,
-    Vector3,
-    Matrix33,
-    Matrix44,
-    Quad,
-    Point,
-    Size,
-    Rectangle,
-    Color
-};
+namespace {
+
+// The kinds in the order of their tags; a text counts as one.
+using TaggedKinds = ValueList<std::uint32_t, std::int32_t, float, double, Bool, std::int64_t, const char16_t*, Vector3,
+                              Matrix33, Matrix44, Quad, Point, Size, Rectangle, Color>;
+
+template <class Kind, class... Kinds>
+constexpr std::uint32_t PlaceIn(ValueList<Kinds...>) {
+    std::uint32_t place = 0;
+    bool found = false;
+    ((found = found || std::is_same_v<Kind, Kinds>, place += found ? 0 : 1), ...);
+    return place;
+}
+
+} // namespace
+
+enum class CacheArchive::Tag : std::uint32_t { RecordStart, RecordEnd, FirstValue };
+
+template <class Kind>
+constexpr CacheArchive::Tag CacheArchive::TagOf() {
+    return static_cast<Tag>(static_cast<std::uint32_t>(Tag::FirstValue) + PlaceIn<Kind>(TaggedKinds()));
+}
 
 // Reads entries from a file and makes their calls.
 class CacheArchive::Player {
@@ -44,6 +48,8 @@ private:
     void PlayEntry(Tag tag, Archive& target);
     template <class Value>
     void PlayValue(Label label, Archive& target);
+    template <class... Values>
+    void PlayValueOf(ValueList<Values...> list, Tag tag, Label label, Archive& target);
 
     File* file;
     BinaryFileArchive values;
@@ -98,52 +104,29 @@ void CacheArchive::Player::PlayValue(Label label, Archive& target) {
     target.Write(label, value);
 }
 
+template <class... Values>
+void CacheArchive::Player::PlayValueOf(ValueList<Values...>, Tag tag, Label label, Archive& target) {
+    ((tag == TagOf<Values>() ? PlayValue<Values>(label, target) : void()), ...);
+}
+
 void CacheArchive::Player::PlayEntry(Tag tag, Archive& target) {
-    if (tag > Tag::Color) {
+    if (tag > TagOf<Color>()) {
         isStopped = true;
         return;
     }
     const std::u16string labelText = TakeText();
     const Label label = std::u16string_view(labelText);
-    switch (tag) {
-    case Tag::RecordStart:
-        return target.Write(label, ArchivableNode(*this));
-    case Tag::RecordEnd:
-        return;
-    case Tag::Uint:
-        return PlayValue<std::uint32_t>(label, target);
-    case Tag::Int:
-        return PlayValue<std::int32_t>(label, target);
-    case Tag::Float:
-        return PlayValue<float>(label, target);
-    case Tag::Double:
-        return PlayValue<double>(label, target);
-    case Tag::Bool:
-        return PlayValue<Vorn::Bool>(label, target);
-    case Tag::Int64:
-        return PlayValue<std::int64_t>(label, target);
-    case Tag::String: {
+    if (tag == Tag::RecordStart) {
+        target.Write(label, ArchivableNode(*this));
+    } else if (tag == TagOf<const char16_t*>()) {
         const std::u16string text = TakeText();
-        return target.Write(label, text.c_str(), static_cast<int>(text.size()) + 1);
-    }
-    case Tag::Vector3:
-        return PlayValue<Vorn::Vector3>(label, target);
-    case Tag::Matrix33:
-        return PlayValue<Vorn::Matrix33>(label, target);
-    case Tag::Matrix44:
-        return PlayValue<Vorn::Matrix44>(label, target);
-    case Tag::Quad:
-        return PlayValue<Vorn::Quad>(label, target);
-    case Tag::Point:
-        return PlayValue<Vorn::Point>(label, target);
-    case Tag::Size:
-        return PlayValue<Vorn::Size>(label, target);
-    case Tag::Rectangle:
-        return PlayValue<Vorn::Rectangle>(label, target);
-    case Tag::Color:
-        return PlayValue<Vorn::Color>(label, target);
+        target.Write(label, text.c_str(), static_cast<int>(text.size()) + 1);
+    } else {
+        PlayValueOf(ArchiveValues(), tag, label, target);
     }
 }
+
+CacheArchive::CacheArchive(FileSystem& _fileSystem) : fileSystem(_fileSystem) {}
 
 CacheArchive::~CacheArchive() {
     CheckAssert(writeFile == nullptr, "writeFile == NULL");
@@ -187,46 +170,19 @@ void CacheArchive::PutTag(Tag tag, Label label) {
 }
 
 template <class Value>
-void CacheArchive::PutEntry(Tag tag, Label label, const Value& value) {
+void CacheArchive::ReadValue(Label, Value&) {
+    CheckAssert(!(kIsOneOf<Value, std::int32_t, std::uint32_t>), "false");
+}
+
+template <class Value>
+void CacheArchive::WriteValue(Label label, const Value& value) {
     if (writeFile != nullptr) {
-        PutTag(tag, label);
+        PutTag(TagOf<Value>(), label);
         BinaryFileArchive(writeFile, false).Write({}, value);
     }
 }
 
-void CacheArchive::Read(Label, Color&) {}
-
-void CacheArchive::Read(Label, Rectangle&) {}
-
-void CacheArchive::Read(Label, Size&) {}
-
-void CacheArchive::Read(Label, Point&) {}
-
-void CacheArchive::Read(Label, Quad&) {}
-
-void CacheArchive::Read(Label, Matrix44&) {}
-
-void CacheArchive::Read(Label, Matrix33&) {}
-
-void CacheArchive::Read(Label, Vector3&) {}
-
 void CacheArchive::Read(Label, char16_t*, int) {}
-
-void CacheArchive::Read(Label, std::int64_t&) {}
-
-void CacheArchive::Read(Label, Bool&) {}
-
-void CacheArchive::Read(Label, double&) {}
-
-void CacheArchive::Read(Label, float&) {}
-
-void CacheArchive::Read(Label, std::int32_t&) {
-    CheckAssert(false, "false");
-}
-
-void CacheArchive::Read(Label, std::uint32_t&) {
-    CheckAssert(false, "false");
-}
 
 void CacheArchive::Read(Label, SingleLineArchivable&) {
     CheckAssert(false, "false");
@@ -240,71 +196,11 @@ void CacheArchive::Read(Label, Archivable&) {
     CheckAssert(false, "false");
 }
 
-void CacheArchive::Write(Label label, const Color& value) {
-    PutEntry(Tag::Color, label, value);
-}
-
-void CacheArchive::Write(Label label, const Rectangle& value) {
-    PutEntry(Tag::Rectangle, label, value);
-}
-
-void CacheArchive::Write(Label label, const Size& value) {
-    PutEntry(Tag::Size, label, value);
-}
-
-void CacheArchive::Write(Label label, const Point& value) {
-    PutEntry(Tag::Point, label, value);
-}
-
-void CacheArchive::Write(Label label, const Quad& value) {
-    PutEntry(Tag::Quad, label, value);
-}
-
-void CacheArchive::Write(Label label, const Matrix44& value) {
-    PutEntry(Tag::Matrix44, label, value);
-}
-
-void CacheArchive::Write(Label label, const Matrix33& value) {
-    PutEntry(Tag::Matrix33, label, value);
-}
-
-void CacheArchive::Write(Label label, const Vector3& value) {
-    PutEntry(Tag::Vector3, label, value);
-}
-
 void CacheArchive::Write(Label label, const char16_t* text, int) {
     if (writeFile != nullptr) {
-        PutTag(Tag::String, label);
+        PutTag(TagOf<const char16_t*>(), label);
         PutText(text);
     }
-}
-
-void CacheArchive::Write(Label label, const std::int64_t& value) {
-    PutEntry(Tag::Int64, label, value);
-}
-
-void CacheArchive::Write(Label label, const Bool& value) {
-    PutEntry(Tag::Bool, label, value);
-}
-
-void CacheArchive::Write(Label label, const double& value) {
-    PutEntry(Tag::Double, label, value);
-}
-
-void CacheArchive::Write(Label label, const float& value) {
-    PutEntry(Tag::Float, label, value);
-}
-
-void CacheArchive::Write(Label label, const std::int32_t& value) {
-    PutEntry(Tag::Int, label, value);
-}
-
-void CacheArchive::Write(Label label, const std::uint32_t& value) {
-    PutEntry(Tag::Uint, label, value);
-}
-
-void CacheArchive::Write(Label label, const SingleLineArchivable& value) {
-    value.Write(label, *this);
 }
 
 void CacheArchive::Write(Label label, const Archivable& value) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/archive/filearchivesystem.h"
+
 #include <cstddef>
 #include <memory>
 
@@ -7,11 +9,12 @@ namespace Vorn {
 
 // The remote storage facility behind SteamFileArchive: an area of memory and a place in it that moves on as archives
 // read and write. What becomes of the area is the business of the facility.
-class RemoteStorage {
+class RemoteStorage : public ArchiveMaker {
 public:
     static constexpr std::size_t kAreaSize = 31457280;
 
-    virtual ~RemoteStorage() = default;
+    // An archive of the Steam form on the area, which it clears.
+    FileArchive* Make(bool hasFloatBits) override;
 
     // The start of the area of kAreaSize bytes.
     virtual unsigned char* GetArea() = 0;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/archive/bytefilearchive.h"
-#include "engine/archive/remotestorage.h"
+#include "engine/archive/further/remotestorage.h"
 
 namespace Vorn {
 
@@ -26,6 +26,7 @@ public:
     SteamFileArchive(RemoteStorage& _storage, bool _hasFloatBits);
 
     using ByteFileArchive::Read;
+    using ByteFileArchive::Write;
     void Read(Label label, char16_t* buffer, int bufferSize) override;
 
 private:

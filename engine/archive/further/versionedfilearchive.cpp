@@ -1,4 +1,4 @@
-#include "engine/archive/versionedfilearchive.h"
+#include "engine/archive/further/versionedfilearchive.h"
 
 #include "engine/core/reporting.h"
 

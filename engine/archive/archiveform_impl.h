@@ -1,0 +1,19 @@
+#pragma once
+
+#include "engine/archive/archiveform.h"
+
+// The bodies of ArchiveForm, for the file that holds the constructor and the values of a form.
+
+namespace Vorn {
+
+template <class Form, class Base, class Value, class... Others>
+void ValueOverrides<Form, Base, ValueList<Value, Others...>>::Read(Label label, Value& value) {
+    static_cast<Form&>(*this).ReadValue(label, value);
+}
+
+template <class Form, class Base, class Value, class... Others>
+void ValueOverrides<Form, Base, ValueList<Value, Others...>>::Write(Label label, const Value& value) {
+    static_cast<Form&>(*this).WriteValue(label, value);
+}
+
+} // namespace Vorn

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "tests/support/contentlines.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+
+namespace Vorn {
+
+// Whom an edit of a case changes: the source and what comes out, or one of them.
+enum class Side { Both, In, Out };
+
+struct SidedEdit {
+    Side side;
+    Edit edit;
+};
+
+// A report that a case expects.
+//   report TEXT, reports N TEXT   one or N lines, or with no text the lines given
+//   check TEXT, checks N TEXT     one or N failed checks of that text
+//   missing KEY ... at PATH       keys that are not found while that line of the source waits; PATH+N where the last
+//   line
+//                                 of the source has answered for itself N times since the report before
+struct ExpectedReport {
+    std::string verb;
+    std::string rest;
+    Lines added;
+};
+
+// One case of a case file: a content, its edits, and what comes of them.
+struct Case {
+    std::string name;
+    std::string from;
+    std::vector<SidedEdit> edits;
+    std::vector<ExpectedReport> reports;
+    // The process ends abnormally.
+    bool ends = false;
+    // No file is written.
+    bool writesNothing = false;
+    // "once": what comes out changes again at the next conversion.
+    bool changesAgain = false;
+    // "place FILE CHECK": the source file that a failed check names.
+    std::map<std::string, std::string> places;
+
+    // Where the case stands in its file, and those of its lines that somebody wrote by hand.
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    Lines given;
+};
+
+// The contents and cases of one kind, tests/content/KIND.cases:
+//   # TEXT                  a remark
+//   content NAME            the lines given are a content
+//   sample NAME FILE        a file below samples is a content
+//   from NAME               the content that the cases behind start from
+//   case NAME               a case, up to the next empty line; a `from` of its own goes first
+// A line is given as "|" and the line, below what it belongs to.
+struct CaseFile {
+    CaseFile(const std::filesystem::path& _path, const std::filesystem::path& _samples);
+
+    // Replaces the case's lines by those given by hand and `generated`.
+    void Update(const Case& updated, const Lines& generated);
+
+    std::filesystem::path path;
+    std::filesystem::path samples;
+    // The conversion type.
+    std::string type;
+    Lines lines;
+    std::map<std::string, Lines> contents;
+    std::vector<Case> cases;
+    std::map<std::size_t, std::pair<std::size_t, Lines>> updates;
+};
+
+} // namespace Vorn

@@ -1,45 +1,18 @@
 #include "fuzz/conversion.h"
+#include "fuzz/corpus.h"
 #include "fuzz/damage.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace Vorn {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 // What is larger is damaged at random only.
 constexpr std::size_t kSmallContent = 2000;
 constexpr std::size_t kMostFlips = 2500;
-
-struct Corpus {
-    std::vector<std::string> all;
-    // Those that nothing is wrong with.
-    std::vector<std::string> sound;
-};
-
-void LoadFolder(const char* folder, Corpus& corpus) {
-    std::vector<fs::path> paths;
-    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        if (entry.is_regular_file() && entry.path().string().find(".reports") == std::string::npos) {
-            paths.push_back(entry.path());
-        }
-    }
-    std::sort(paths.begin(), paths.end());
-    for (const fs::path& path : paths) {
-        std::ifstream file(path, std::ios::binary);
-        corpus.all.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-        if (path.extension() != ".source") {
-            corpus.sound.push_back(corpus.all.back());
-        }
-    }
-}
 
 class Replay {
 public:
@@ -91,11 +64,12 @@ private:
 
 } // namespace Vorn
 
-// Converts every file of the folders, then systematic and random damage of them: replay TYPE TIMES SEED FOLDER...
+// Converts all contents, then systematic and random damage of them: replay TYPE TIMES SEED CONTENT..., each a folder or
+// a file of cases.
 // A crash, a sanitizer report or a binary form that does not settle is the failure. Seed 0 takes a new one.
 int main(int argc, char** argv) {
     if (argc < 5) {
-        std::puts("Usage: replay TYPE TIMES SEED FOLDER...");
+        std::puts("Usage: replay TYPE TIMES SEED CONTENT...");
         return 2;
     }
     unsigned long long seed = std::strtoull(argv[3], nullptr, 10);
@@ -105,7 +79,7 @@ int main(int argc, char** argv) {
     std::printf("seed %llu\n", seed);
     Vorn::Corpus corpus;
     for (int i = 4; i < argc; ++i) {
-        Vorn::LoadFolder(argv[i], corpus);
+        corpus.Load(argv[i]);
     }
     if (corpus.all.empty()) {
         std::puts("nothing to replay");

@@ -1,6 +1,5 @@
 #include "tests/support/casefile.h"
 
-#include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 
 #include <algorithm>
@@ -17,14 +16,6 @@ Lines SplitLines(std::string_view text) {
         lines.emplace_back(text.substr(0, end));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
-    return lines;
-}
-
-// The lines of a text file behind its header and version.
-Lines FieldsOfText(std::string text) {
-    std::erase(text, '\r');
-    Lines lines = SplitLines(text);
-    lines.erase(lines.begin(), lines.begin() + 2);
     return lines;
 }
 
@@ -94,9 +85,6 @@ private:
         } else if (verb == "ends" || verb == "nothing") {
             (verb == "ends" ? last.ends : last.writesNothing) = true;
             isGenerated = true;
-        } else if (verb == "place") {
-            const std::string place(TakeWord(rest));
-            last.places[std::string(rest)] = place;
         } else if (verb == "once") {
             last.changesAgain = true;
         } else if (verb == "missing" || verb.starts_with("report") || verb.starts_with("check")) {
@@ -128,6 +116,18 @@ private:
 };
 
 } // namespace
+
+Lines FieldsOfText(std::string text) {
+    std::erase(text, '\r');
+    Lines lines = SplitLines(text);
+    lines.erase(lines.begin(), lines.begin() + 2);
+    return lines;
+}
+
+std::string ConversionTypeOf(const std::string& name) {
+    const std::string kind = name.substr(0, name.find('-'));
+    return kind == "brushes" || kind == "mesh" || kind == "particle" ? kind : "entity";
+}
 
 CaseFile::CaseFile(const std::filesystem::path& _path, const std::filesystem::path& _samples)
     : path(_path), samples(_samples), type(ConversionTypeOf(path.stem())), lines(SplitLines(ReadBytes(path).value())) {

@@ -40,14 +40,19 @@ struct Case {
     bool writesNothing = false;
     // "once": what comes out changes again at the next conversion.
     bool changesAgain = false;
-    // "place FILE CHECK": the source file that a failed check names.
-    std::map<std::string, std::string> places;
 
     // Where the case stands in its file, and those of its lines that somebody wrote by hand.
     std::size_t begin = 0;
     std::size_t end = 0;
     Lines given;
 };
+
+// The lines of a text file behind its header and version.
+Lines FieldsOfText(std::string text);
+
+// The conversion type of a case file or a folder of samples, up to a dash in its name: an engine type by its own name,
+// else an entity.
+std::string ConversionTypeOf(const std::string& name);
 
 // The contents and cases of one kind, tests/content/KIND.cases:
 //   # TEXT                  a remark

@@ -243,17 +243,6 @@ Lines DescribeChanges(Lines expected, const Lines& actual) {
     return changes.Result();
 }
 
-Lines SourceLines::Content() const {
-    return {lines.begin() + static_cast<Offset>(std::min(headerLines, lines.size())), lines.end()};
-}
-
-std::string SourceLines::MissingReport(std::string_view key, std::size_t lineNumber, std::size_t waiting) const {
-    const std::size_t shown = std::min(waiting, lines.size() - 1);
-    const bool ends = lastLineEnds || shown + 1 < lines.size();
-    return std::string(kMissing) + "\n\nFile: source\nLabel: " + std::string(key) +
-           "\nLine Number:" + std::to_string(lineNumber) + "\nLine Contents:" + lines[shown] + (ends ? "\n\n" : "\n");
-}
-
 Lines DescribeReports(std::string_view reports, const SourceLines& source) {
     ReportLines result(source);
     while (!reports.empty()) {

@@ -31,19 +31,13 @@ std::string Content(std::FILE* stream) {
     return content;
 }
 
-// Takes the position in front of each failed check away and collects the names of the source files.
-std::string TakePositions(std::string_view text, std::vector<std::string>& places) {
+std::string WithoutPositions(std::string_view text) {
     std::string result;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
         const std::string_view line = text.substr(0, end);
         const std::size_t check = line.find(": assert! [");
         result += line.substr(check == std::string_view::npos ? 0 : check + 2);
-        if (check != std::string_view::npos) {
-            std::string place(line.substr(0, line.find('.')));
-            std::replace(place.begin(), place.end(), '\\', '/');
-            places.push_back(place);
-        }
         text.remove_prefix(end);
     }
     return result;
@@ -105,13 +99,8 @@ ProcessResult RunConverter(const std::vector<std::string>& arguments, const std:
     result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     result.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     result.output = Content(output.get());
-    result.reports = TakePositions(Content(reports.get()), result.places);
+    result.reports = WithoutPositions(Content(reports.get()));
     return result;
-}
-
-std::string ConversionTypeOf(const std::string& name) {
-    const std::string kind = name.substr(0, name.find('-'));
-    return kind == "brushes" || kind == "mesh" || kind == "particle" ? kind : "entity";
 }
 
 } // namespace Vorn

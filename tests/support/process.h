@@ -13,8 +13,6 @@ struct ProcessResult {
     std::string output;
     // Standard error, without the source position in front of failed checks.
     std::string reports;
-    // The source file of each failed check, without its ending: "engine/archive/archive".
-    std::vector<std::string> places;
 
     // Killed by a signal of its own making, not for running too long.
     bool EndedAbnormally() const;
@@ -26,9 +24,5 @@ enum class Tracing { Off, On };
 // attached to it all the time. `prepare` runs in the new process, right before it becomes the converter.
 ProcessResult RunConverter(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
                            Tracing tracing = Tracing::Off, void (*prepare)() = nullptr);
-
-// The conversion type of a case file or a folder of samples, up to a dash in its name: an engine type by its own name,
-// else an entity.
-std::string ConversionTypeOf(const std::string& name);
 
 } // namespace Vorn

@@ -4,7 +4,9 @@ cmake_minimum_required(VERSION 3.25)
 
 function(give_up reason)
   file(REMOVE "${OUTPUT}.new")
-  message(FATAL_ERROR "${SOURCE}: ${reason}. '${OUTPUT}' was not written.")
+  # Not all in the error, whose lines CMake breaks.
+  message("${SOURCE}: error: ${reason}, so that ${OUTPUT} was not written")
+  message(FATAL_ERROR "Not converted")
 endfunction()
 
 get_filename_component(directory "${OUTPUT}" DIRECTORY)

@@ -1,27 +1,36 @@
 #include "engine/core/core.h"
+#include "engine/core/reporting.h"
 #include "engine/string/utf8.h"
 #include "gs/entity/entitysystem.h"
 #include "gs/entity/types/fighterdef.h"
+#include <cstdio>
 
-// Doubles the hull points of a fighter: doublehull SOURCE DESTINATION
-int main(int argc, char** argv) {
-    if (argc != 3) {
-        return 2;
-    }
-    Vorn::Core core;
-    Vorn::FileArchiveSystem& archives = core.fileArchiveSystem;
-    Vorn::EntitySystem entities(archives);
-    const auto definition = entities.LoadEntityDef(Vorn::NameFromBytes(argv[1]));
-    auto* fighter = dynamic_cast<Vorn::FighterDef*>(definition.get());
-    if (fighter == nullptr) {
+using namespace Vorn;
+
+struct Watch : ReportHandler, EndGuard {
+    void Handle(const char*, int, std::u16string_view text, bool) override { std::puts(BytesFromName(text).c_str()); }
+    void BeforeAbnormalEnd() override { throw 2; }
+};
+
+// Makes a fighter a bomber of twice the hull points: bomber SOURCE DESTINATION
+int main(int argc, char** argv) try {
+    Watch watch;
+    g_Reporting.reportHandler = &watch;
+    Core core;
+    EntitySystem entities(core.fileArchiveSystem);
+    const auto definition = entities.LoadEntityDef(NameFromBytes(argc == 3 ? argv[1] : ""));
+    auto* fighter = dynamic_cast<FighterDef*>(definition.get());
+    if (fighter == nullptr)
         return 1;
-    }
     fighter->maxHullPoints *= 2;
-    Vorn::FileArchive* archive =
-        archives.OpenForWrite(Vorn::NameFromBytes(argv[2]), false, Vorn::FileArchiveType::Text);
-    if (archive == nullptr) {
+    fighter->statCountType =
+        static_cast<PlayerEntityCountType>(EnumFromText(u"FighterBomber", kEnumTable<PlayerEntityCountType>));
+    const auto name = NameFromBytes(argv[2]);
+    ScopedArchive archive(core.fileArchiveSystem,
+                          core.fileArchiveSystem.OpenForWrite(name, false, FileArchiveType::Text));
+    if (!archive)
         return 1;
-    }
     entities.WriteEntityDef(*archive, *fighter);
-    archives.Close(archive);
+} catch (int status) {
+    return status;
 }

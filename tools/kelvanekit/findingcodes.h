@@ -115,6 +115,16 @@ Wrong:
 Right:
     lastKey 1
 )"},
+    {"unexpected-value", Severity::Error, R"(Something stands behind a key that begins a group of keys.
+It is lost.
+
+Wrong:
+    lamp "red"
+        power 3.000000
+Right:
+    lamp
+        power 3.000000
+)"},
     {"line-too-long", Severity::Error, R"(A line has more than 1023 units.
 Its rest counts as another line, and everything behind it is lost. Shorten the line.
 )"},
@@ -151,6 +161,10 @@ Right:
     {"newer-version", Severity::Warning, R"(The file is of a later version than this program.
 It is read as if it were of the current one. Keys that came later are lost.
 )"},
+    {"older-version", Severity::Note, R"(The file is of an earlier version than this program writes.
+It is read by the keys of its version and written in the current one. The help lists the
+keys that are new; a key that has no place any more is told at its own line.
+)"},
     {"wrong-type", Severity::Error, R"(The type that the file states is not the one that its keys belong to.
 The file is read by the keys of the stated type, and nearly all of it is lost.
 
@@ -160,6 +174,24 @@ Wrong:
 Right:
     entityType "Ship"
     maxSpeed 12.000000
+)"},
+
+    {"wrong-choice", Severity::Error, R"(The keys that follow a text belong to another of its texts.
+A text, or TRUE and FALSE, decides which keys follow. The file has those of another one.
+
+Wrong:
+    kind "Lamp"
+    sound "HONK"
+Right:
+    kind "Horn"
+    sound "HONK"
+)"},
+    {"not-kept", Severity::Error, R"(A value does not survive a conversion.
+It is written as something else, or left out, although nothing is wrong with it by
+itself. The message tells what becomes of it.
+)"},
+    {"rewritten", Severity::Note, R"(A group is written in a shorter form that means the same.
+Nothing is lost by it.
 )"},
 
     // Values that are texts.

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "engine/archive/fieldobserver.h"
+
+#include <string>
+#include <vector>
+
+namespace Vorn {
+
+enum class FieldKind : std::uint8_t {
+    Color,
+    Rectangle,
+    Size,
+    Point,
+    Quad,
+    Matrix44,
+    Matrix33,
+    Vector3,
+    Text,
+    Int64,
+    Bool,
+    Double,
+    Float,
+    Int,
+    Uint,
+    Record,
+    // A row of a matrix, which has no key.
+    Row
+};
+
+inline constexpr std::int32_t kNone = -1;
+
+// A field that a list of fields asked for, with the line that gave it. Places in a list of them are called asks.
+struct AskedField {
+    Label label;
+    // The rows of a text that is an enumeration's.
+    const EnumTable* table = nullptr;
+    FieldKind kind = FieldKind::Record;
+    NameKind name = NameKind::None;
+    ListRule rule = ListRule::Growing;
+    bool isCount = false;
+    bool isDegrees = false;
+    // From 0; kNone if it is missing.
+    std::int32_t line = kNone;
+    // The ask of the record that it belongs to.
+    std::int32_t parent = kNone;
+    // The ask of the count of the list that it is an entry of, or the first field of several of an entry, and the
+    // entry's number.
+    std::int32_t list = kNone;
+    std::int32_t entry = kNone;
+    // Units of a text's buffer, entries that a list keeps.
+    std::int32_t capacity = 0;
+    // The row of an enumeration, the number of entries that a list has.
+    std::int32_t value = kNone;
+};
+
+using AskedFields = std::vector<AskedField>;
+
+// The path of a key: `Weapon[1].WeaponType`.
+std::string PathOf(const AskedFields& asks, std::int32_t ask);
+
+// A key that stands in the record of `parent`, which may be kNone.
+std::string PathBelow(const AskedFields& asks, std::int32_t parent, std::string_view key);
+
+} // namespace Vorn

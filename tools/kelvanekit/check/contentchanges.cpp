@@ -1,0 +1,237 @@
+#include "tools/kelvanekit/check/contentfindings.h"
+
+#include "engine/archive/archiveversion.h"
+#include "engine/string/ascii.h"
+#include "tools/kelvanekit/check/writtentext.h"
+#include "tools/kelvanekit/findingcodes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <set>
+
+namespace Vorn {
+
+namespace {
+
+// How far apart the same key is looked for where the two sides have different ones.
+constexpr std::size_t kFarthest = 4000;
+
+struct WrittenLine {
+    std::string_view key;
+    std::string_view value;
+};
+
+std::vector<WrittenLine> LinesOf(std::string_view written) {
+    std::vector<WrittenLine> lines;
+    while (!written.empty()) {
+        const std::size_t length = std::min(written.find('\n'), written.size());
+        const std::string_view line = Trimmed(written.substr(0, length));
+        const std::string_view key = line.starts_with('[') ? line.substr(0, 1) : KeyOf(line);
+        lines.push_back({key, line.starts_with('[') ? line : Trimmed(line.substr(key.size()))});
+        written.remove_prefix(std::min(length + 1, written.size()));
+    }
+    return lines;
+}
+
+bool IsEmptyValue(std::string_view value) {
+    return value.empty() || value == "\"\"" || value == "FALSE" || value.find_first_not_of("0.") == std::string::npos;
+}
+
+// Compares the fields that were read with the lines that a conversion writes, key by key.
+class Comparison {
+public:
+    Comparison(const SourceText& _text, TextReader& _reader, std::string_view written, std::size_t firstAsk)
+        : text(_text), reader(_reader), asks(_reader.Asks()), lines(LinesOf(written)), ask(firstAsk) {
+        for (const Finding& finding : reader.GetFindings()) {
+            known.insert(finding.place.line - 1);
+        }
+    }
+
+    void Run() {
+        while (ask < asks.size() && line < lines.size()) {
+            if (IsPair(ask, line)) {
+                Compare(asks[ask], lines[line]);
+                ++ask;
+                ++line;
+            } else {
+                Resynchronise();
+            }
+        }
+        Drop(asks.size() - std::min(ask, asks.size()));
+        Gain(lines.size() - std::min(line, lines.size()));
+    }
+
+    // Keys that are new in the version that is written.
+    std::string gained;
+
+private:
+    bool IsPair(std::size_t i, std::size_t k) const {
+        const Label label = asks[i].label;
+        return lines[k].key.size() == label.size() && Ascii::EqualsEach(lines[k].key.data(), label);
+    }
+
+    // Passes over as few as possible on either side.
+    void Resynchronise() {
+        for (std::size_t distance = 1; distance < kFarthest; ++distance) {
+            if (ask + distance < asks.size() && IsPair(ask + distance, line)) {
+                Drop(distance);
+                return;
+            }
+            if (line + distance < lines.size() && IsPair(ask, line + distance)) {
+                Gain(distance);
+                return;
+            }
+        }
+        Drop(1);
+        Gain(1);
+    }
+
+    // Fields that are not written.
+    void Drop(std::size_t count) {
+        for (; count > 0; --count, ++ask) {
+            const AskedField& field = asks[ask];
+            const bool isNewName = reader.GetVersion() >= kArchiveVersion || field.line == kNone ||
+                                   (line < lines.size() && lines[line].value == ValueOf(field));
+            if (!isNewName && !IsEmptyValue(ValueOf(field)) && field.kind != FieldKind::Record &&
+                known.insert(field.line).second && (line >= lines.size() || !IsReplaced())) {
+                Add(Code("not-kept"), field,
+                    "version " + std::to_string(kArchiveVersion) + " has no place for it: it is lost");
+            }
+        }
+    }
+
+    // Whether one key stands in place of another.
+    bool IsReplaced() const { return ask + 1 < asks.size() && line + 1 < lines.size() && IsPair(ask + 1, line + 1); }
+
+    // Lines that no field was read for.
+    void Gain(std::size_t count) {
+        for (; count > 0; --count, ++line) {
+            constexpr std::size_t kMostGained = 400;
+            if (gained.size() < kMostGained && !lines[line].value.empty()) {
+                gained += (gained.empty() ? "`" : ", `") + std::string(lines[line].key) + ' ' +
+                          std::string(lines[line].value) + '`';
+            }
+        }
+    }
+
+    std::string_view ValueOf(const AskedField& field) const {
+        const std::string_view content = text.Line(field.line);
+        if (field.kind == FieldKind::Row) {
+            return Trimmed(content);
+        }
+        const std::string_view key = KeyOf(content);
+        return Trimmed(content.substr(static_cast<std::size_t>(key.data() - content.data()) + key.size()));
+    }
+
+    bool IsInList(const AskedField& field, ListRule rule) const {
+        for (const AskedField* at = &field;; at = &asks[static_cast<std::size_t>(at->parent)]) {
+            if ((at->isCount && at->rule == rule) ||
+                (at->list != kNone && asks[static_cast<std::size_t>(at->list)].rule == rule)) {
+                return true;
+            }
+            if (at->parent == kNone) {
+                return false;
+            }
+        }
+    }
+
+    void Compare(const AskedField& field, const WrittenLine& written) {
+        if (field.line == kNone || field.kind == FieldKind::Record) {
+            return;
+        }
+        const std::string_view value = ValueOf(field);
+        if (IsSameValue(value, written.value) || known.contains(field.line) || IsInList(field, ListRule::Keyed)) {
+            return;
+        }
+        const std::string becomes = '`' + std::string(written.value) + '`';
+        if (IsInList(field, ListRule::Derived)) {
+            const std::int32_t list = field.isCount ? static_cast<std::int32_t>(&field - asks.data()) : field.list;
+            if (staleLists.insert(list).second && !HasFindingInList(list)) {
+                Add(Code("stale-index-list"), asks[static_cast<std::size_t>(list)],
+                    "the list is not what the other data give: it is made anew");
+            }
+            return;
+        }
+        known.insert(field.line);
+        if (IsRounding(field, value, written.value)) {
+            Add(Code("lost-decimals"), field, "is kept as " + becomes, std::string(written.value));
+        } else if (field.table != nullptr && !IsPair(ask + 1 < asks.size() ? ask + 1 : ask, NextLine())) {
+            Add(Code("rewritten"), field, "is written in a shorter form, as " + becomes);
+        } else {
+            Add(Code("not-kept"), field, "is not kept: it is written as " + becomes);
+        }
+    }
+
+    std::size_t NextLine() const { return std::min(line + 1, lines.size() - 1); }
+
+    bool HasFindingInList(std::int32_t list) const {
+        return std::ranges::any_of(asks, [&](const AskedField& field) {
+            return field.list == list && known.contains(field.line);
+        });
+    }
+
+    static bool IsRounding(const AskedField& field, std::string_view value, std::string_view written) {
+        if (field.kind == FieldKind::Float) {
+            const double given = std::strtod(std::string(value).c_str(), nullptr);
+            const double kept = std::strtod(std::string(written).c_str(), nullptr);
+            return std::fabs(given - kept) <= 1e-5 * std::max(std::fabs(given), 1.0);
+        }
+        return field.kind == FieldKind::Vector3 || field.kind == FieldKind::Quad || field.kind == FieldKind::Row;
+    }
+
+    void Add(const FindingCode* code, const AskedField& field, std::string message, std::string replacement = {}) {
+        const std::string_view value = ValueOf(field);
+        const auto begin = static_cast<std::int32_t>(value.data() - text.Line(field.line).data());
+        Finding& finding = reader.GetFindings().emplace_back();
+        finding.code = code;
+        finding.place = {field.line + 1, begin, begin + static_cast<std::int32_t>(value.size())};
+        finding.key = PathOf(asks, static_cast<std::int32_t>(&field - asks.data()));
+        finding.message = value.empty() ? std::move(message) : '`' + std::string(value) + "` " + message;
+        finding.hasReplacement = !replacement.empty();
+        finding.replacement = std::move(replacement);
+    }
+
+    const SourceText& text;
+    TextReader& reader;
+    const AskedFields& asks;
+    const std::vector<WrittenLine> lines;
+    std::size_t ask;
+    std::size_t line = 0;
+    std::set<std::int32_t> known;
+    std::set<std::int32_t> staleLists;
+};
+
+void NoteVersion(const SourceText& text, TextReader& reader, bool hasVersion, const std::string& gained) {
+    const std::int32_t version = reader.GetVersion();
+    const std::int32_t line = hasVersion && !reader.Asks().empty() ? reader.Asks()[0].line : 0;
+    if (version == kArchiveVersion || line == kNone) {
+        return;
+    }
+    Finding& finding = reader.GetFindings().emplace_back();
+    finding.place = {line + 1, 0, static_cast<std::int32_t>(text.Line(line).size())};
+    finding.key = hasVersion ? PathOf(reader.Asks(), 0) : "";
+    const std::string current = std::to_string(kArchiveVersion);
+    if (version > kArchiveVersion) {
+        finding.code = Code("newer-version");
+        finding.message = "version " + std::to_string(version) + " is later than " + current +
+                          ": the file is read like one of " + current;
+        return;
+    }
+    finding.code = Code("older-version");
+    finding.message = (hasVersion ? "the file is of version " + std::to_string(version) : "the file has no version") +
+                      std::string(": it is written in version ") + current;
+    finding.help = gained.empty() ? "" : "new keys: " + gained;
+}
+
+} // namespace
+
+void NoteChanges(const SourceText& text, TextReader& reader, LoadedContent& content) {
+    const std::string written = WriteAsText(content, static_cast<std::size_t>(text.End() - text.Start()));
+    const bool hasVersion = reader.HasVersion();
+    Comparison comparison(text, reader, written, hasVersion ? 1 : 0);
+    comparison.Run();
+    NoteVersion(text, reader, hasVersion, comparison.gained);
+}
+
+} // namespace Vorn

@@ -1,0 +1,234 @@
+#include "tools/kelvanekit/check/contentfindings.h"
+
+#include "tools/kelvanekit/check/failedcheck.h"
+#include "tools/kelvanekit/findingcodes.h"
+
+#include <algorithm>
+#include <set>
+
+namespace Vorn {
+
+namespace {
+
+constexpr std::size_t kFarthestName = 300;
+
+Finding& Add(TextReader& reader, const SourceText& text, const FindingCode* code, std::int32_t ask,
+             std::string message) {
+    const AskedField& field = reader.Asks()[static_cast<std::size_t>(ask)];
+    const std::string_view content = text.Line(field.line);
+    Finding& finding = reader.GetFindings().emplace_back();
+    finding.code = code;
+    finding.place = {field.line + 1, IndentationOf(content), static_cast<std::int32_t>(content.size())};
+    finding.key = PathOf(reader.Asks(), ask);
+    finding.message = std::move(message);
+    return finding;
+}
+
+std::set<std::int32_t> LinesWithFindings(const Findings& findings) {
+    std::set<std::int32_t> lines;
+    for (const Finding& finding : findings) {
+        lines.insert(finding.place.line - 1);
+    }
+    return lines;
+}
+
+// The fields of a record, or of a list's entries, in order.
+std::vector<std::int32_t> ChildrenOf(const AskedFields& asks, std::int32_t parent) {
+    std::vector<std::int32_t> children;
+    for (auto i = static_cast<std::size_t>(parent + 1); i < asks.size() && asks[i].parent >= parent; ++i) {
+        if (asks[i].parent == parent) {
+            children.push_back(static_cast<std::int32_t>(i));
+        }
+    }
+    return children;
+}
+
+std::vector<std::int32_t> EntriesOf(const AskedFields& asks, std::int32_t list) {
+    std::vector<std::int32_t> entries;
+    for (auto i = static_cast<std::size_t>(list + 1); i < asks.size(); ++i) {
+        if (asks[i].list == list) {
+            entries.push_back(static_cast<std::int32_t>(i));
+        }
+    }
+    return entries;
+}
+
+// The counts of lists that are not in other lists, by their place among these.
+std::vector<std::int32_t> OuterLists(const AskedFields& asks) {
+    std::vector<std::int32_t> lists;
+    const std::int32_t root = asks.empty() ? kNone : asks[0].parent;
+    for (std::size_t i = 0; i < asks.size(); ++i) {
+        const bool isOuter = asks[i].parent == root || asks[static_cast<std::size_t>(asks[i].parent)].parent == root;
+        if (asks[i].isCount && isOuter && asks[i].list == kNone) {
+            lists.push_back(static_cast<std::int32_t>(i));
+        }
+    }
+    return lists;
+}
+
+// The key of an entry's row in a list that has a place for each.
+std::int32_t RowAskOf(const AskedFields& asks, std::int32_t entry) {
+    if (asks[static_cast<std::size_t>(entry)].table != nullptr) {
+        return entry;
+    }
+    const std::vector<std::int32_t> children = ChildrenOf(asks, entry);
+    return children.empty() ? kNone : children[0];
+}
+
+void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list) {
+    const AskedFields& asks = reader.Asks();
+    std::set<std::int32_t> rows;
+    for (const std::int32_t entry : EntriesOf(asks, list)) {
+        const std::int32_t ask = RowAskOf(asks, entry);
+        const AskedField* field = ask == kNone ? nullptr : &asks[static_cast<std::size_t>(ask)];
+        if (field == nullptr || field->table == nullptr || field->line == kNone) {
+            continue;
+        }
+        if (field->value == kInvalidEnum) {
+            Add(reader, text, Code("not-kept"), ask, "an entry of the type `Invalid` is left out");
+        } else if (!rows.insert(field->value).second) {
+            Add(reader, text, Code("duplicate-property"), ask,
+                '`' + ToUtf8(field->table->rows[field->value]) + "` stands in the list already: the last one is kept")
+                .help = "take one of them out";
+        }
+    }
+}
+
+bool HasDuplicate(const BrushSet& set) {
+    std::set<std::u16string_view> known;
+    return std::ranges::any_of(set.GetBrushes(),
+                               [&](const Brush& brush) { return !known.insert(brush.GetName().View()).second; });
+}
+
+void NoteDuplicateNames(const SourceText& text, TextReader& reader, const BrushSet& set) {
+    const AskedFields& asks = reader.Asks();
+    const std::vector<std::int32_t> lists = OuterLists(asks);
+    const std::vector<std::int32_t> entries = lists.empty() ? lists : EntriesOf(asks, lists[0]);
+    std::set<std::u16string_view> known;
+    std::size_t i = 0;
+    for (const Brush& brush : set.GetBrushes()) {
+        const bool isNew = known.insert(brush.GetName().View()).second;
+        const std::vector<std::int32_t> children =
+            i < entries.size() && !isNew ? ChildrenOf(asks, entries[i]) : std::vector<std::int32_t>();
+        if (!children.empty() && asks[static_cast<std::size_t>(children[0])].line != kNone) {
+            Add(reader, text, Code("duplicate-name"), children[0],
+                "there is a `" + ToUtf8(brush.GetName().View()) + "` already");
+        }
+        ++i;
+    }
+}
+
+template <class Visit>
+void ForEachBadIndex(const Mesh::Data& mesh, Visit visit) {
+    const auto vertexCount = static_cast<std::uint32_t>(mesh.vertices.Size());
+    const auto materialCount = static_cast<std::uint32_t>(mesh.materials.Size());
+    std::int32_t triangle = 0;
+    for (const Mesh::Triangle& indices : mesh.triangles) {
+        const std::uint32_t values[] = {indices.iVertex0, indices.iVertex1, indices.iVertex2, indices.iMaterial};
+        for (std::int32_t i = 0; i < 4; ++i) {
+            const std::uint32_t count = i < 3 ? vertexCount : materialCount;
+            if (values[i] >= count) {
+                visit(triangle, i, values[i], count);
+            }
+        }
+        ++triangle;
+    }
+}
+
+bool HasBadIndex(const Mesh::Data& mesh) {
+    bool isBad = false;
+    ForEachBadIndex(mesh, [&](std::int32_t, std::int32_t, std::uint32_t, std::uint32_t) { isBad = true; });
+    return isBad;
+}
+
+std::string IndexMessage(std::uint32_t value, std::uint32_t count) {
+    return std::to_string(static_cast<std::int32_t>(value)) + " points outside of a list of " + std::to_string(count);
+}
+
+// The lists of a mesh stand in the order materials, points, vertices, triangles and six of vertex indices.
+void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data& mesh) {
+    constexpr std::size_t kTriangles = 3;
+    const AskedFields& asks = reader.Asks();
+    const std::vector<std::int32_t> lists = OuterLists(asks);
+    const std::vector<std::int32_t> triangles =
+        lists.size() > kTriangles && HasBadIndex(mesh) ? EntriesOf(asks, lists[kTriangles]) : std::vector<std::int32_t>();
+    const auto add = [&](std::int32_t ask, std::uint32_t value, std::uint32_t count) {
+        if (asks[static_cast<std::size_t>(ask)].line != kNone) {
+            Add(reader, text, Code("index-out-of-range"), ask, IndexMessage(value, count));
+        }
+    };
+    ForEachBadIndex(mesh, [&](std::int32_t triangle, std::int32_t i, std::uint32_t value, std::uint32_t count) {
+        const auto place = static_cast<std::size_t>(triangle);
+        const std::vector<std::int32_t> children =
+            place < triangles.size() ? ChildrenOf(asks, triangles[place]) : std::vector<std::int32_t>();
+        if (static_cast<std::size_t>(i) < children.size()) {
+            add(children[static_cast<std::size_t>(i)], value, count);
+        }
+    });
+    const auto vertexCount = static_cast<std::uint32_t>(mesh.vertices.Size());
+    for (std::size_t list = kTriangles + 1; list < lists.size() && list <= kTriangles + Mesh::Data::kDirectionCount;
+         ++list) {
+        const auto& indices = mesh.cachedVertexIndices[static_cast<int>(list - kTriangles - 1)];
+        const bool isBad = std::ranges::any_of(
+            indices, [&](std::int32_t index) { return static_cast<std::uint32_t>(index) >= vertexCount; });
+        const std::vector<std::int32_t> entries = isBad ? EntriesOf(asks, lists[list]) : std::vector<std::int32_t>();
+        for (std::size_t i = 0; i < entries.size() && i < static_cast<std::size_t>(indices.Size()); ++i) {
+            const auto index = static_cast<std::uint32_t>(indices[static_cast<int>(i)]);
+            if (index >= vertexCount) {
+                add(entries[i], index, vertexCount);
+            }
+        }
+    }
+}
+
+// The ask that a failed check is about.
+std::int32_t AskOf(const AskedFields& asks, const FailedCheck& check) {
+    std::int32_t ask = check.ask;
+    const bool isChoice = check.expression == "false";
+    for (std::size_t i = 0; i < kFarthestName && ask >= 0; ++i, --ask) {
+        const AskedField& field = asks[static_cast<std::size_t>(ask)];
+        if (isChoice ? field.table != nullptr : SpeaksOf(check.expression, field.label, field.isCount)) {
+            return ask;
+        }
+    }
+    const std::int32_t parent = check.ask < 0 ? kNone : asks[static_cast<std::size_t>(check.ask)].parent;
+    return parent != kNone ? parent : check.ask;
+}
+
+} // namespace
+
+bool HasSuspectRelations(const LoadedContent& content) {
+    return (content.GetMesh() != nullptr && HasBadIndex(*content.GetMesh())) ||
+           (content.GetBrushes() != nullptr && HasDuplicate(*content.GetBrushes()));
+}
+
+void NoteRelations(const SourceText& text, TextReader& reader, const LoadedContent& content) {
+    const AskedFields& asks = reader.Asks();
+    for (std::size_t i = 0; i < asks.size(); ++i) {
+        if (asks[i].isCount && asks[i].rule == ListRule::Keyed) {
+            NoteKeyedList(text, reader, static_cast<std::int32_t>(i));
+        }
+    }
+    if (content.GetBrushes() != nullptr) {
+        NoteDuplicateNames(text, reader, *content.GetBrushes());
+    }
+    if (content.GetMesh() != nullptr) {
+        NoteBadIndices(text, reader, *content.GetMesh());
+    }
+}
+
+void NoteFailedChecks(const SourceText& text, TextReader& reader) {
+    std::set<std::int32_t> known = LinesWithFindings(reader.GetFindings());
+    for (const FailedCheck& check : reader.FailedChecks()) {
+        const std::int32_t ask = AskOf(reader.Asks(), check);
+        if (ask == kNone) {
+            continue;
+        }
+        const std::int32_t line = reader.Asks()[static_cast<std::size_t>(ask)].line;
+        if (line != kNone && known.insert(line).second) {
+            Add(reader, text, Code("unsuitable-value"), ask, CheckMessage(check.expression));
+        }
+    }
+}
+
+} // namespace Vorn

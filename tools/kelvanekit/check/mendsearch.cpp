@@ -1,0 +1,362 @@
+#include "tools/kelvanekit/check/mendsearch.h"
+
+#include "engine/string/ascii.h"
+#include "tools/kelvanekit/nearest.h"
+
+#include <algorithm>
+#include <memory>
+#include <queue>
+#include <set>
+#include <tuple>
+
+namespace Vorn {
+
+namespace {
+
+// Lines that have to fit behind a mend before it is settled.
+constexpr std::int32_t kSettledAfter = 12;
+constexpr int kMostTrialsPerMistake = 600;
+// Lines that all trials together may pass.
+constexpr std::int64_t kMostTriedLines = 30000000;
+constexpr std::int32_t kFarthestLine = 48;
+constexpr std::size_t kRecentChoices = 6;
+
+// What a mistake of a kind weighs. Those that authors make more often weigh less; findings that are there anyhow
+// weigh nearly nothing.
+namespace Weight {
+constexpr double kKnown = 0.05;
+constexpr double kDoubtfulChoice = 0.1;
+constexpr double kBlankLine = 0.5;
+constexpr double kDoubledLine = 0.9;
+constexpr double kMisspelt = 0.92;
+constexpr double kCount = 0.95;
+constexpr double kOneLine = 1.0;
+constexpr double kSwapped = 1.05;
+constexpr double kGroup = 1.2;
+constexpr double kRest = 1.3;
+constexpr double kFirstChoice = 1.5;
+constexpr double kOtherKey = 1.7;
+constexpr double kChoice = 2.1;
+} // namespace Weight
+
+struct Trial {
+    Mends mends;
+    double weight = 0.0;
+    // From this line on keys have to fit.
+    std::int32_t baseLine = 0;
+    // In the order in which they were thought of.
+    int number = 0;
+    bool isRead = false;
+    Mismatch mismatch;
+};
+
+using TrialPtr = std::shared_ptr<Trial>;
+
+struct IsHeavier {
+    bool operator()(const TrialPtr& left, const TrialPtr& right) const {
+        return std::tie(left->weight, left->number) > std::tie(right->weight, right->number);
+    }
+};
+
+using Queue = std::priority_queue<TrialPtr, std::vector<TrialPtr>, IsHeavier>;
+
+bool IsLabel(std::string_view key, Label label) {
+    return key.size() == label.size() && Ascii::EqualsEach(key.data(), label);
+}
+
+bool IsLike(std::string_view key, Label label) {
+    const std::u16string units = ToUnits(key);
+    const std::u16string_view candidates[] = {label};
+    return NearestOf(units, candidates) != kNoneNear ||
+           (units.size() > label.size() && units.starts_with(label) && label.size() > 2);
+}
+
+class MendSearch {
+public:
+    MendSearch(ContentKind _kind, const SourceText& _text, const TextHeader& _header)
+        : kind(_kind), text(_text), header(_header) {}
+
+    Mends Run() {
+        TrialPtr root = std::make_shared<Trial>();
+        Try(*root);
+        while (!root->isRead && triedLines < kMostTriedLines) {
+            TrialPtr next = MendOnce(*root);
+            if (next == nullptr) {
+                break;
+            }
+            root = next;
+        }
+        return root->mends;
+    }
+
+private:
+    void Try(Trial& trial) {
+        LoadedContent content(kind);
+        TextReader reader(text, header, TextReader::Mode::Probing, nullptr, trial.mends);
+        trial.isRead = reader.Read(content);
+        trial.mismatch = std::move(reader.GetMismatch());
+        triedLines += 20 + (trial.isRead ? text.LineCount() : trial.mismatch.line);
+    }
+
+    // The trial of least weight that settles the first mistake of `start`, and others close behind it.
+    TrialPtr MendOnce(const Trial& start) {
+        queue = Queue();
+        seen.clear();
+        TrialPtr farthest;
+        const auto reach = [](const Trial& trial) {
+            return trial.mismatch.line - trial.baseLine - 6.0 * trial.weight + 0.001 * trial.mismatch.line;
+        };
+        AddChildren(start, 0.0);
+        for (int trials = 0; !queue.empty() && trials < kMostTrialsPerMistake && triedLines < kMostTriedLines;
+             ++trials) {
+            const TrialPtr trial = queue.top();
+            queue.pop();
+            Try(*trial);
+            if (trial->isRead || trial->mismatch.line >= trial->baseLine + kSettledAfter) {
+                return trial;
+            }
+            const bool isAhead = trial->mismatch.line > start.mismatch.line || trial->mismatch.ask > start.mismatch.ask;
+            if (isAhead && (farthest == nullptr || reach(*trial) > reach(*farthest))) {
+                farthest = trial;
+            }
+            const Mismatch& at = trial->mismatch;
+            const std::int32_t entries = at.lists.empty() ? 0 : at.lists.back().entries;
+            if (seen.emplace(at.line, at.label.data(), at.lists.size(), entries, at.isAbnormalEnd).second) {
+                AddChildren(*trial, trial->weight);
+            }
+        }
+        return farthest;
+    }
+
+    std::string_view Key(std::int32_t line) const { return KeyOf(text.Line(line)); }
+
+    void Add(const Trial& parent, double weight, std::initializer_list<Mend> mends, std::int32_t baseLine) {
+        Add(parent, weight, Mends(mends), baseLine);
+    }
+
+    void Add(const Trial& parent, double weight, const Mends& mends, std::int32_t baseLine) {
+        auto trial = std::make_shared<Trial>();
+        trial->mends = parent.mends;
+        trial->mends.insert(trial->mends.end(), mends.begin(), mends.end());
+        trial->weight = weight + parentWeight;
+        trial->baseLine = baseLine;
+        trial->number = ++trialCount;
+        queue.push(std::move(trial));
+    }
+
+    void AddChildren(const Trial& trial, double weight) {
+        parentWeight = weight;
+        const Mismatch& at = trial.mismatch;
+        if (at.line < text.LineCount() && Key(at.line).empty() && !at.isAbnormalEnd) {
+            Add(trial, Weight::kBlankLine, {{Mend::Kind::SkipLines, kNone, at.line, 1}}, at.line + 1);
+            return;
+        }
+        AddCounts(trial);
+        AddChoices(trial);
+        if (at.isAbnormalEnd) {
+            return;
+        }
+        if (at.line >= text.LineCount()) {
+            AddEndOfFile(trial);
+            return;
+        }
+        AddSkips(trial);
+        if (!at.label.empty()) {
+            AddKeys(trial);
+            AddMissing(trial);
+        }
+    }
+
+    // Mends of the line ahead as a line for what is asked for.
+    void AddKeys(const Trial& trial) {
+        const Mismatch& at = trial.mismatch;
+        const std::string_view key = Key(at.line);
+        const bool isRow = at.probes[0].kind == FieldKind::Row;
+        const bool isAskedLater = std::any_of(at.probes.begin() + 1, at.probes.end(),
+                                              [&](const ProbedField& probe) { return IsLabel(key, probe.label); });
+        if (!isRow && isAskedLater && IsLabel(Key(at.line + 1), at.label)) {
+            Add(trial, Weight::kSwapped, {{Mend::Kind::SwapLines, kNone, at.line, kNone}}, at.line + 2);
+        }
+        const bool isLike = !isRow && IsLike(key, at.label);
+        const double weight = (isLike ? Weight::kMisspelt : Weight::kOtherKey) + (isAskedLater ? 0.8 : 0.0);
+        Add(trial, weight, {{Mend::Kind::AcceptLine, at.ask, kNone, kNone}}, at.line + 1);
+    }
+
+    // Mends of fields without lines, up to one that has the key ahead.
+    void AddMissing(const Trial& trial) {
+        const Mismatch& at = trial.mismatch;
+        const std::string_view key = Key(at.line);
+        const bool isRowAhead = key.starts_with('[');
+        int found = 0;
+        for (std::size_t i = 1; i < at.probes.size() && found < 3; ++i) {
+            const bool isRow = at.probes[i].kind == FieldKind::Row;
+            if (isRow ? isRowAhead : IsLabel(key, at.probes[i].label)) {
+                Mends mends = MissingUpTo(at, i);
+                if (mends.size() < kFarthestLine) {
+                    const double weight = static_cast<double>(mends.size()) * Weight::kOneLine;
+                    Add(trial, weight, mends, at.line);
+                    ++found;
+                }
+            }
+        }
+        Add(trial, Weight::kOneLine + 0.01, {{Mend::Kind::Missing, at.ask, kNone, kNone}}, at.line);
+        if (at.probes[0].kind == FieldKind::Record || at.probes[0].kind == FieldKind::Matrix33) {
+            Add(trial, Weight::kOneLine + 0.01, {{Mend::Kind::MissingHeader, at.ask, kNone, kNone}}, at.line);
+        }
+    }
+
+    // The fields ahead of a probed one: the groups that it stands in lack their first line, other groups are missing as
+    // a whole.
+    static Mends MissingUpTo(const Mismatch& at, std::size_t target) {
+        Mends mends;
+        std::int32_t depth = at.probes[target].depth;
+        for (std::size_t i = target; i-- > 0;) {
+            if (at.probes[i].depth <= depth) {
+                const bool isAround = at.probes[i].depth < depth;
+                mends.push_back({isAround ? Mend::Kind::MissingHeader : Mend::Kind::Missing, kNone, kNone, kNone});
+                depth = at.probes[i].depth;
+            }
+        }
+        std::ranges::reverse(mends);
+        for (std::size_t i = 0; i < mends.size(); ++i) {
+            mends[i].ask = at.ask + static_cast<std::int32_t>(i);
+        }
+        return mends;
+    }
+
+    // Mends of lines that nothing asks for.
+    void AddSkips(const Trial& trial) {
+        const Mismatch& at = trial.mismatch;
+        const std::int32_t group = GroupLength(at.line);
+        const bool isDoubled = at.line > 0 && Key(at.line - 1) == Key(at.line);
+        const bool isSurplus = std::ranges::any_of(at.endedLists, [](const OpenList& list) {
+            return list.shape.rule == ListRule::Fatal && list.count > list.shape.limit;
+        });
+        const auto skip = [&](double weight, std::int32_t count) {
+            Add(trial, isSurplus ? Weight::kKnown : weight, {{Mend::Kind::SkipLines, kNone, at.line, count}},
+                at.line + count);
+        };
+        skip(isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
+        if (group > 1) {
+            skip(Weight::kGroup, group);
+        }
+        if (at.label.empty()) {
+            const std::int32_t rest = text.LineCount() - at.line;
+            skip(rest == 1 ? Weight::kOneLine : Weight::kRest, rest);
+            return;
+        }
+        for (std::int32_t count = 2; count < kFarthestLine; ++count) {
+            if (IsLabel(Key(at.line + count), at.label)) {
+                Mends mends;
+                for (std::int32_t i = 0; i < count; ++i) {
+                    mends.push_back({Mend::Kind::SkipLines, kNone, at.line + i, 1});
+                }
+                Add(trial, count * Weight::kOneLine, mends, at.line + count);
+                break;
+            }
+        }
+    }
+
+    // How many lines belong together: one, or the first of a group and those that are indented below it.
+    std::int32_t GroupLength(std::int32_t line) const {
+        const std::string_view first = text.Line(line);
+        std::int32_t end = line + 1;
+        while (end < text.LineCount() && IndentationOf(text.Line(end)) > IndentationOf(first)) {
+            ++end;
+        }
+        return end - line;
+    }
+
+    bool HasMendBehind(const Trial& trial, std::int32_t ask) const {
+        return std::ranges::any_of(trial.mends,
+                                   [&](const Mend& mend) { return !mend.IsOfLines() && mend.ask > ask; });
+    }
+
+    static bool HasMendAt(const Trial& trial, std::int32_t ask, std::initializer_list<Mend::Kind> kinds) {
+        return std::ranges::any_of(trial.mends, [&](const Mend& mend) {
+            return mend.ask == ask && std::ranges::find(kinds, mend.kind) != kinds.end();
+        });
+    }
+
+    // Mends of counts: of lists that have just ended and of those that an entry is wanted of.
+    void AddCounts(const Trial& trial) {
+        using enum Mend::Kind;
+        const Mismatch& at = trial.mismatch;
+        const auto add = [&](const OpenList& list, Mend::Kind mend, std::int32_t value) {
+            if (!HasMendAt(trial, list.ask, {Count, OpenCount}) || (mend == Count && list.isOpen)) {
+                Add(Without(trial, list.ask), list.isDoubtful || list.isOpen ? Weight::kKnown : Weight::kCount,
+                    {{mend, list.ask, kNone, value}}, at.line);
+            }
+        };
+        for (const OpenList& list : at.lists) {
+            if (list.entries > 0 && list.entryAsk == at.ask) {
+                add(list, Count, list.entries - 1);
+            } else if (at.isAbnormalEnd && list.ask + 1 == at.ask) {
+                add(list, OpenCount, kNone);
+            }
+        }
+        if (at.line < text.LineCount()) {
+            for (const OpenList& list : at.endedLists) {
+                add(list, OpenCount, kNone);
+            }
+        }
+    }
+
+    static Trial Without(const Trial& trial, std::int32_t countAsk) {
+        Trial result;
+        result.mends = trial.mends;
+        std::erase_if(result.mends, [&](const Mend& mend) {
+            return mend.ask == countAsk && (mend.kind == Mend::Kind::Count || mend.kind == Mend::Kind::OpenCount);
+        });
+        return result;
+    }
+
+    // Mends of enumerations and truth values that the keys ahead may depend on.
+    void AddChoices(const Trial& trial) {
+        const Mismatch& at = trial.mismatch;
+        for (std::size_t i = 0; i < at.choices.size(); ++i) {
+            const ReadChoice& choice = at.choices[i];
+            const bool isFirst = i + 1 == at.choices.size() && choice.table != nullptr && choice.ask <= 2;
+            if (HasMendBehind(trial, choice.ask) || HasMendAt(trial, choice.ask, {Mend::Kind::Choice}) ||
+                (!choice.isDoubtful && !isFirst && (i >= kRecentChoices || parentWeight > 0.0))) {
+                continue;
+            }
+            const double weight = choice.isDoubtful ? Weight::kDoubtfulChoice
+                                  : isFirst         ? Weight::kFirstChoice
+                                                    : Weight::kChoice;
+            const std::int32_t count = choice.table == nullptr ? 2 : choice.table->rowCount;
+            for (std::int32_t value = 0; value < count; ++value) {
+                if (value != choice.value) {
+                    Add(trial, weight, {{Mend::Kind::Choice, choice.ask, kNone, value}}, at.line);
+                }
+            }
+        }
+    }
+
+    // All fields from here on have no line.
+    void AddEndOfFile(const Trial& trial) {
+        const Mismatch& at = trial.mismatch;
+        if (at.label.empty()) {
+            return;
+        }
+        Add(trial, Weight::kOneLine, {{Mend::Kind::Missing, at.ask, kNone, kNone}}, at.line);
+        Add(trial, Weight::kRest, {{Mend::Kind::MissingRest, at.ask, kNone, kNone}}, at.line);
+    }
+
+    const ContentKind kind;
+    const SourceText& text;
+    const TextHeader& header;
+    Queue queue;
+    std::set<std::tuple<std::int32_t, const char16_t*, std::size_t, std::int32_t, bool>> seen;
+    double parentWeight = 0.0;
+    int trialCount = 0;
+    std::int64_t triedLines = 0;
+};
+
+} // namespace
+
+Mends FindMends(ContentKind kind, const SourceText& text, const TextHeader& header) {
+    return MendSearch(kind, text, header).Run();
+}
+
+} // namespace Vorn

@@ -1,0 +1,131 @@
+#include "tools/kelvanekit/check/writtentext.h"
+
+#include "engine/archive/textfilearchive.h"
+#include "engine/file/filesystem.h"
+#include "tools/kelvanekit/check/valuescan.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+namespace {
+
+class StringStream final : public ByteStream {
+public:
+    explicit StringStream(std::string& _bytes) : bytes(_bytes) {}
+
+    std::ptrdiff_t Read(void*, std::size_t) override { return -1; }
+    bool Write(const void* part, std::size_t count) override {
+        bytes.append(static_cast<const char*>(part), count);
+        return true;
+    }
+    bool Close() override { return true; }
+
+private:
+    std::string& bytes;
+};
+
+// A store with one file, which can be written.
+class StringStore final : public FileStore {
+public:
+    explicit StringStore(std::string& _bytes) : bytes(_bytes) {}
+
+    std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override {
+        return std::make_unique<StringStream>(bytes);
+    }
+    bool Exists(std::u16string_view) const override { return true; }
+
+private:
+    std::string& bytes;
+};
+
+char LowerHex(char byte) {
+    return byte >= 'A' && byte <= 'F' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
+// Takes the next number or mark of a value.
+std::string_view TakeToken(std::string_view& text) {
+    text = Trimmed(text);
+    const auto isMark = [](char byte) { return byte == '[' || byte == ']' || byte == ','; };
+    std::size_t length = !text.empty() && isMark(text[0]) ? 1 : 0;
+    while (length < text.size() && !isMark(text[0]) && !isMark(text[length]) && text[length] != ' ' &&
+           text[length] != '\t') {
+        ++length;
+    }
+    const std::string_view token = text.substr(0, length);
+    text.remove_prefix(length);
+    return token;
+}
+
+std::string_view WithoutZeros(std::string_view digits) {
+    digits.remove_prefix(digits.starts_with("0x") || digits.starts_with("0X") ? 2 : digits.starts_with('+') ? 1 : 0);
+    return digits.substr(std::min(digits.find_first_not_of('0'), digits.size()));
+}
+
+bool IsSameToken(std::string_view left, std::string_view right) {
+    return left == right ||
+           std::ranges::equal(WithoutZeros(left), WithoutZeros(right), {}, LowerHex, LowerHex) ||
+           (right.find('.') != std::string_view::npos && SameDecimal(left, right));
+}
+
+std::string_view TakeTextLine(std::string_view& text) {
+    const std::size_t length = std::min(text.find('\n'), text.size());
+    const std::string_view line = text.substr(0, length);
+    text.remove_prefix(std::min(length + 1, text.size()));
+    return Trimmed(line);
+}
+
+} // namespace
+
+std::string WriteAsText(LoadedContent& content, std::size_t expectedSize) {
+    constexpr std::size_t kMarkSize = 3;
+    std::string written;
+    written.reserve(expectedSize + expectedSize / 8 + kMarkSize);
+    StringStore store(written);
+    FileSystem files(store);
+    File* file = files.Open(u"written", FileAccess::Write, FileTranslation::Text);
+    TextFileArchive archive(file, false);
+    content.Write(archive);
+    files.Close(file);
+    written.erase(0, kMarkSize);
+    return written;
+}
+
+bool IsSameValue(std::string_view left, std::string_view right) {
+    if (left == right) {
+        return true;
+    }
+    if (right.starts_with('"')) {
+        return false;
+    }
+    while (!left.empty() || !right.empty()) {
+        if (!IsSameToken(TakeToken(left), TakeToken(right))) {
+            return false;
+        }
+        left = Trimmed(left);
+        right = Trimmed(right);
+    }
+    return true;
+}
+
+bool IsSameText(std::string_view left, std::string_view right) {
+    if (left == right) {
+        return true;
+    }
+    while (!left.empty() && !right.empty()) {
+        const std::string_view leftLine = TakeTextLine(left);
+        const std::string_view rightLine = TakeTextLine(right);
+        if (leftLine == rightLine) {
+            continue;
+        }
+        const std::string_view leftKey = KeyOf(leftLine);
+        const std::string_view rightKey = KeyOf(rightLine);
+        if (leftKey != rightKey ||
+            !IsSameValue(Trimmed(leftLine.substr(leftKey.size())), Trimmed(rightLine.substr(rightKey.size())))) {
+            return false;
+        }
+    }
+    return Trimmed(left).empty() && right.empty();
+}
+
+} // namespace Vorn

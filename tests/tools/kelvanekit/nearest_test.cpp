@@ -13,9 +13,9 @@ TEST(NearestTest, EditsAreCountedUpToTheLimit) {
         int edits;
     };
     constexpr Case kCases[] = {
-        {u"", u"", 0},           {u"", u"abc", 3},        {u"hull", u"hull", 0},   {u"hull", u"hul", 1},
-        {u"hull", u"shull", 1},  {u"hull", u"hill", 1},   {u"hull", u"uhll", 1},   {u"hull", u"Hull", 1},
-        {u"width", u"Widht", 2}, {u"abcd", u"badc", 2},   {u"kitten", u"sitting", 3}, {u"abc", u"cab", 2},
+        {u"", u"", 0},           {u"", u"abc", 3},      {u"hull", u"hull", 0},      {u"hull", u"hul", 1},
+        {u"hull", u"shull", 1},  {u"hull", u"hill", 1}, {u"hull", u"uhll", 1},      {u"hull", u"Hull", 1},
+        {u"width", u"Widht", 2}, {u"abcd", u"badc", 2}, {u"kitten", u"sitting", 3}, {u"abc", u"cab", 2},
     };
     for (const Case& c : kCases) {
         EXPECT_EQ(EditDistance(c.left, c.right, 9), c.edits) << testing::PrintToString(std::u16string(c.left));

@@ -43,9 +43,9 @@ std::string WithoutPositions(std::string_view text) {
     return result;
 }
 
-[[noreturn]] void BecomeConverter(const std::vector<std::string>& arguments, const char* folder, Tracing tracing,
-                                  void (*prepare)()) {
-    std::vector<char*> argv = {const_cast<char*>(KELVANE_EXECUTABLE)};
+[[noreturn]] void BecomeProgram(const char* program, const std::vector<std::string>& arguments, const char* folder,
+                                Tracing tracing, void (*prepare)()) {
+    std::vector<char*> argv = {const_cast<char*>(program)};
     for (const std::string& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
     }
@@ -62,7 +62,7 @@ std::string WithoutPositions(std::string_view text) {
         prepare();
     }
     if (chdir(folder) == 0) {
-        execv(KELVANE_EXECUTABLE, argv.data());
+        execv(program, argv.data());
     }
     _exit(127);
 }
@@ -85,6 +85,11 @@ bool ProcessResult::EndedAbnormally() const {
 
 ProcessResult RunConverter(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
                            Tracing tracing, void (*prepare)()) {
+    return RunProgram(KELVANE_EXECUTABLE, arguments, folder, tracing, prepare);
+}
+
+ProcessResult RunProgram(const char* program, const std::vector<std::string>& arguments,
+                         const std::filesystem::path& folder, Tracing tracing, void (*prepare)()) {
     const Stream output = MakeStream();
     const Stream reports = MakeStream();
     const std::string folderName = folder.string();
@@ -92,7 +97,7 @@ ProcessResult RunConverter(const std::vector<std::string>& arguments, const std:
     if (child == 0) {
         dup2(fileno(output.get()), STDOUT_FILENO);
         dup2(fileno(reports.get()), STDERR_FILENO);
-        BecomeConverter(arguments, folderName.c_str(), tracing, prepare);
+        BecomeProgram(program, arguments, folderName.c_str(), tracing, prepare);
     }
     const int status = WaitFor(child);
     ProcessResult result;

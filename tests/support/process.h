@@ -25,4 +25,9 @@ enum class Tracing { Off, On };
 ProcessResult RunConverter(const std::vector<std::string>& arguments, const std::filesystem::path& folder,
                            Tracing tracing = Tracing::Off, void (*prepare)() = nullptr);
 
+// The same with another program.
+ProcessResult RunProgram(const char* program, const std::vector<std::string>& arguments,
+                         const std::filesystem::path& folder, Tracing tracing = Tracing::Off,
+                         void (*prepare)() = nullptr);
+
 } // namespace Vorn

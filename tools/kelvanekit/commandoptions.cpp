@@ -1,9 +1,12 @@
 #include "tools/kelvanekit/commandoptions.h"
 
 #include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/nearest.h"
 #include "tools/kelvanekit/orderedjobs.h"
 
 #include <CLI/CLI.hpp>
+
+#include <algorithm>
 
 namespace Vorn {
 
@@ -36,9 +39,16 @@ std::string Joined(const std::vector<std::string>& names) {
 
 // An option with one of some names as its value.
 void AddChoice(CLI::App& app, const char* option, const char* description, const std::vector<std::string>& names,
-               const std::string& standard, const std::function<void(const std::string&)>& choose) {
-    CLI::Option* added = app.add_option_function<std::string>(option, choose, description);
-    added->check(CLI::IsMember(names))->type_name(Joined(names))->default_str(standard);
+               const std::function<void(const std::string&)>& choose) {
+    const auto check = [names](const std::string& name) {
+        const std::vector<std::string_view> allowed(names.begin(), names.end());
+        return std::ranges::find(names, name) != names.end()
+                   ? std::string()
+                   : "'" + name + "' is none of " + Joined(names) + DidYouMean(name, allowed);
+    };
+    app.add_option_function<std::string>(option, choose, description)
+        ->check(CLI::Validator(check, ""))
+        ->type_name(Joined(names));
 }
 
 } // namespace
@@ -46,7 +56,7 @@ void AddChoice(CLI::App& app, const char* option, const char* description, const
 void AddSourceOptions(CLI::App& app, SourceOptions& options) {
     app.add_option("FILE|FOLDER", options.names, "Content files, and folders with such files; - is standard input")
         ->type_name("");
-    AddChoice(app, "--type", "The type of all files, whatever their ending", NamesIn(ContentKinds()), "",
+    AddChoice(app, "--type", "The type of all files, whatever their ending", NamesIn(ContentKinds()),
               [&](const std::string& name) { options.type = ContentKindNamed(name); });
     MakeRepeatable(
         app.add_option("--exclude", options.excludes, "Leave out files and folders of this name; can be repeated")
@@ -58,13 +68,13 @@ void AddSourceOptions(CLI::App& app, SourceOptions& options) {
 void AddJobsOption(CLI::App& app, unsigned& jobs) {
     jobs = ProcessorCount();
     app.add_option("--jobs", jobs, "Files to work on at a time [processors]")
-        ->check(CLI::Range(1, kMostJobs))
+        ->check(CLI::Range(1, kMostJobs).description(""))
         ->type_name("N");
 }
 
 void AddReportOptions(CLI::App& app, ReportOptions& options) {
     options.form = &FindingForms().front();
-    AddChoice(app, "--format", "The form of the findings", NamesIn(FindingForms()), std::string(options.form->name),
+    AddChoice(app, "--format", "The form of the findings [pretty]", NamesIn(FindingForms()),
               [&](const std::string& name) { options.form = FindForm(name); });
     app.add_option("--max-findings", options.maxFindings, "Show so many findings and count the others")->type_name("N");
     app.add_flag("--warnings-as-errors", options.warningsAsErrors, "Report warnings as errors");
@@ -82,7 +92,7 @@ void AddReportOptions(CLI::App& app, ReportOptions& options) {
                        ->type_name("CODE"));
     static constexpr std::pair<const char*, ColorMode> kModes[] = {
         {"auto", ColorMode::Auto}, {"always", ColorMode::Always}, {"never", ColorMode::Never}};
-    AddChoice(app, "--color", "Colours in the output", {"auto", "always", "never"}, "auto",
+    AddChoice(app, "--color", "Colours in the output [auto: at a terminal]", {"auto", "always", "never"},
               [&](const std::string& name) {
                   options.colors = std::ranges::find(kModes, name, &std::pair<const char*, ColorMode>::first)->second;
               });

@@ -73,8 +73,8 @@ int FindingReport::Finish(std::size_t fileCount) {
     options.form->end(text, problems);
     output.Write(text);
     output.Flush();
-    if (!output.Problem().empty()) {
-        AddProblem("standard output: " + output.Problem());
+    if (const std::string problem = output.TakeProblem(); !problem.empty()) {
+        AddProblem("the findings cannot be written: " + problem);
     }
     errors.Write(Counts(fileCount));
     errors.Flush();

@@ -15,13 +15,16 @@ namespace {
 constexpr const char* kProgram = "kelvane-kit";
 constexpr std::size_t kOptionColumns = 34;
 
-// A command that does not exist is said so itself, rather than that its arguments fit nowhere.
-std::string UnknownCommand(const std::vector<std::string>& arguments) {
+// What is wrong with the command's name, if anything is.
+std::string CommandProblem(const std::vector<std::string>& arguments) {
+    if (arguments.empty()) {
+        return "no command is given";
+    }
     std::vector<std::string_view> names;
     for (const Command& command : Commands()) {
         names.emplace_back(command.name);
     }
-    const std::string& name = arguments.empty() ? std::string("--") : arguments.front();
+    const std::string& name = arguments.front();
     if (name.starts_with('-') || std::ranges::find(names, name) != names.end()) {
         return {};
     }
@@ -47,12 +50,13 @@ int ParseAndRun(std::vector<std::string> arguments, OutputStream& output, Output
         const CommandRun declared = command.declare(*sub);
         sub->final_callback([&run, declared] { run = declared; });
     }
-    if (const std::string unknown = UnknownCommand(arguments); !unknown.empty()) {
-        return Complain(errors, unknown, "");
+    if (const std::string problem = CommandProblem(arguments); !problem.empty()) {
+        return Complain(errors, problem, "");
     }
     try {
         std::ranges::reverse(arguments);
         app.parse(std::move(arguments));
+        return run(output, errors);
     } catch (const CLI::CallForHelp&) {
         output.Write(app.help());
         return kNothingFound;
@@ -63,7 +67,6 @@ int ParseAndRun(std::vector<std::string> arguments, OutputStream& output, Output
         const auto parsed = app.get_subcommands();
         return Complain(errors, error.what(), parsed.empty() ? "" : ' ' + parsed.front()->get_name());
     }
-    return run(output, errors);
 }
 
 } // namespace
@@ -78,6 +81,9 @@ int RunKit(std::vector<std::string> arguments) {
         errors.Write(std::string(kProgram) + ": " + exception.what() + '\n');
     }
     output.Flush();
+    if (const std::string problem = output.TakeProblem(); !problem.empty()) {
+        errors.Write(std::string(kProgram) + ": the output cannot be written: " + problem + '\n');
+    }
     return output.HasFailed() ? kNotDone : status;
 }
 

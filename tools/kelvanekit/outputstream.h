@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace Vorn {
 
@@ -25,9 +26,11 @@ public:
     void Write(std::string_view text);
     void Flush();
 
-    // Whether something could not be written; all that follows is dropped. `Problem` is empty if nobody reads any more.
+    // Whether something could not be written; all that follows is dropped.
     bool HasFailed() const { return failed; }
-    const std::string& Problem() const { return problem; }
+
+    // The reason, told once; empty if all was written, or if nobody reads any more.
+    std::string TakeProblem() { return std::exchange(problem, {}); }
 
 private:
     bool WriteAll(std::string_view bytes);

@@ -35,7 +35,9 @@ void ProgressBar::Show(std::size_t done) {
 void ProgressBar::Clear() {
     if (visible) {
         // To the beginning of the line, and nothing behind it.
-        errors.Write("\r" + std::string(kWidth + 2 * std::to_string(total).size() + 7, ' ') + "\r");
+        errors.Write("\r");
+        errors.Write(std::string(kWidth + 2 * std::to_string(total).size() + 7, ' '));
+        errors.Write("\r");
         errors.Flush();
         visible = false;
         due = Clock::now();

@@ -1,6 +1,9 @@
+#include "tools/kelvanekit/check/contentcheck.h"
+#include "tools/kelvanekit/checkfiles.h"
 #include "tools/kelvanekit/command.h"
+#include "tools/kelvanekit/commandoptions.h"
 #include "tools/kelvanekit/findingcodes.h"
-#include "tools/kelvanekit/findingreport.h"
+#include "tools/kelvanekit/namelists.h"
 
 #include <CLI/CLI.hpp>
 
@@ -8,28 +11,71 @@ namespace Vorn {
 
 namespace {
 
+constexpr std::string_view kAllCodes = "all";
+
 struct CheckArguments {
+    SourceOptions sources;
+    ReportOptions report;
+    unsigned jobs = 1;
     std::string explain;
+    NameLists lists;
 };
 
-int Explain(const std::string& name, OutputStream& output, OutputStream& errors) {
+void PrintExplanation(const FindingCode& code, OutputStream& output) {
+    output.Write(std::string(code.name) + " (" + std::string(NameOf(code.severity)) + ")\n\n");
+    output.Write(code.explanation);
+}
+
+int Explain(const std::string& name, OutputStream& output) {
+    if (name == kAllCodes) {
+        for (const FindingCode& code : kFindingCodes) {
+            PrintExplanation(code, output);
+            output.Write("\n");
+        }
+        return kNothingFound;
+    }
     const FindingCode* code = FindCode(name);
     if (code == nullptr) {
-        errors.Write("kelvane-kit: " + UnknownCode(name) + '\n');
-        return kNotDone;
+        throw CLI::ValidationError("--explain", UnknownCode(name));
     }
-    output.Write(std::string(code->name) + " (" + std::string(NameOf(code->severity)) + ")\n\n");
-    output.Write(code->explanation);
+    PrintExplanation(*code, output);
     return kNothingFound;
+}
+
+void AddNameOptions(CLI::App& app, NameLists& lists) {
+    app.add_option("--root", lists.root, "Look up names of other contents among all below this folder")
+        ->type_name("FOLDER");
+    app.add_option("--sounds", lists.sounds, "Look up names of sounds in this file, one a line")->type_name("LIST");
+    app.add_option("--strings", lists.strings, "Look up ids of strings in this file, one a line")->type_name("LIST");
+}
+
+int Check(const CheckArguments& arguments, OutputStream& output, OutputStream& errors) {
+    FindingReport report(arguments.report, output, errors);
+    const KnownNames names = LoadNames(arguments.lists, report);
+    const CheckOptions options = {arguments.lists.IsEmpty() ? nullptr : &names};
+    const auto checker = [&](ContentKind kind, std::string_view bytes) { return CheckContent(kind, bytes, options); };
+    return CheckFiles(arguments.sources, arguments.jobs, checker, report, errors);
 }
 
 } // namespace
 
 CommandRun DeclareCheck(CLI::App& app) {
     const auto arguments = std::make_shared<CheckArguments>();
-    app.add_option("--explain", arguments->explain, "Tell more about a code")->required()->type_name("CODE");
-    return
-        [arguments](OutputStream& output, OutputStream& errors) { return Explain(arguments->explain, output, errors); };
+    AddSourceOptions(app, arguments->sources);
+    AddNameOptions(app, arguments->lists);
+    AddReportOptions(app, arguments->report);
+    AddJobsOption(app, arguments->jobs);
+    app.add_option("--explain", arguments->explain, "Tell more about a code, or about all of them, and check nothing")
+        ->type_name("CODE|all");
+    return [arguments](OutputStream& output, OutputStream& errors) {
+        if (!arguments->explain.empty()) {
+            return Explain(arguments->explain, output);
+        }
+        if (arguments->sources.names.empty()) {
+            throw CLI::RequiredError("FILE|FOLDER");
+        }
+        return Check(*arguments, output, errors);
+    };
 }
 
 } // namespace Vorn

@@ -17,7 +17,7 @@ constexpr int kMostJobs = 1024;
 // An option that may stand several times, with one value each.
 template <class Option>
 void MakeRepeatable(Option* option) {
-    option->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    option->expected(1)->allow_extra_args(false)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 template <class Rows>

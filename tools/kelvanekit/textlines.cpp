@@ -31,7 +31,12 @@ TextLines::TextLines(std::string_view bytes) : text(bytes) {
     }
 }
 
-std::string_view TextLines::Line(std::int32_t number) {
+// What follows the last line end counts as a line only if there is anything.
+bool TextLines::Has(std::int32_t number) {
+    return GoTo(number) && place < text.size();
+}
+
+bool TextLines::GoTo(std::int32_t number) {
     if (number < current) {
         current = 1;
         place = 0;
@@ -41,7 +46,11 @@ std::string_view TextLines::Line(std::int32_t number) {
         place = std::min(EndOf(place) + unit, text.size());
         ++current;
     }
-    if (number < 1 || current != number) {
+    return number >= 1 && current == number;
+}
+
+std::string_view TextLines::Line(std::int32_t number) {
+    if (!GoTo(number)) {
         return {};
     }
     const std::string_view line = text.substr(place, EndOf(place) - place);

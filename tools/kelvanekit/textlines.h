@@ -17,9 +17,12 @@ public:
     // none.
     std::string_view Line(std::int32_t number);
 
+    bool Has(std::int32_t number);
+
 private:
     enum class Encoding : std::uint8_t { Utf8, Utf16Little, Utf16Big };
 
+    bool GoTo(std::int32_t number);
     std::size_t EndOf(std::size_t begin) const;
     char16_t UnitAt(std::size_t place) const;
 

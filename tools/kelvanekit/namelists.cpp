@@ -1,0 +1,124 @@
+#include "tools/kelvanekit/namelists.h"
+
+#include "engine/core/core.h"
+#include "engine/file/nativefile.h"
+#include "engine/string/utf8.h"
+#include "engine/window/brushset.h"
+#include "tools/kelvanekit/check/readscope.h"
+#include "tools/kelvanekit/inputfile.h"
+#include "tools/kelvanekit/sources.h"
+#include "tools/kelvanekit/textlines.h"
+
+#include <algorithm>
+
+namespace Vorn {
+
+namespace {
+
+// One file of the platform, whatever the name it is asked for by: records cut long names.
+class OneFile final : public FileStore {
+public:
+    explicit OneFile(const std::string& _name) : name(NameFromBytes(_name)) {}
+
+    std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess access) override {
+        return access == FileAccess::Read ? NativeFiles().Open(name, access) : nullptr;
+    }
+    bool Exists(std::u16string_view) const override { return true; }
+
+private:
+    const std::u16string name;
+};
+
+class DroppedReports final : public ReportHandler {
+public:
+    void Handle(const char*, int, std::u16string_view, bool) override {}
+};
+
+// What is wrong with a brush file is for its own check to say.
+void AddBrushes(const std::string& fileName, KnownNames& names) {
+    DroppedReports dropped;
+    const HandlerScope scope(&dropped);
+    const CatchableEnd end;
+    try {
+        OneFile file(fileName);
+        Core core(file);
+        core.textureSystem.SetNameOnlyTextures(true);
+        BrushSet brushes(u"brushes");
+        brushes.Load(core.fileArchiveSystem);
+        for (const Brush& brush : brushes.GetBrushes()) {
+            names.Add(NameKind::Brush, std::u16string(brush.GetName().View()));
+        }
+        brushes.ReleaseTextures();
+    } catch (const AbnormalEnd&) {
+    }
+}
+
+NameKind NameKindOf(ContentKind kind) {
+    switch (kind) {
+    case ContentKind::Mesh:
+        return NameKind::Mesh;
+    case ContentKind::Particle:
+        return NameKind::Particle;
+    case ContentKind::Brushes:
+        return NameKind::Brush;
+    case ContentKind::Entity:
+        return NameKind::Entity;
+    }
+    return NameKind::None;
+}
+
+void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) {
+    SourceOptions options;
+    options.names = {root};
+    Sources sources = FindSources(options);
+    for (std::string& problem : sources.problems) {
+        report.AddProblem(std::move(problem));
+    }
+    for (const ContentKindRow& row : ContentKinds()) {
+        // Names of a kind are looked up even if no file is of that kind.
+        names.Add(NameKindOf(row.kind), {});
+    }
+    for (const SourceFile& file : sources.files) {
+        if (file.kind == ContentKind::Brushes) {
+            AddBrushes(file.name, names);
+            continue;
+        }
+        // A name stands with or without the ending of its file.
+        const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
+        names.Add(NameKindOf(file.kind), name.substr(0, name.rfind(u'.')));
+        names.Add(NameKindOf(file.kind), name);
+    }
+}
+
+void AddList(const std::string& fileName, NameKind kind, KnownNames& names, FindingReport& report) {
+    if (fileName.empty()) {
+        return;
+    }
+    InputFile input;
+    if (const std::string reason = input.Read(fileName); !reason.empty()) {
+        report.AddProblem(fileName + ": " + reason);
+        return;
+    }
+    names.Add(kind, {});
+    TextLines lines(input.Bytes());
+    for (std::int32_t number = 1; lines.Has(number); ++number) {
+        std::string_view line = lines.Line(number);
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+        line = line.substr(0, line.find_last_not_of(" \t") + 1);
+        names.Add(kind, NameFromBytes(line));
+    }
+}
+
+} // namespace
+
+KnownNames LoadNames(const NameLists& lists, FindingReport& report) {
+    KnownNames names;
+    if (!lists.root.empty()) {
+        AddRoot(lists.root, names, report);
+    }
+    AddList(lists.sounds, NameKind::Sound, names, report);
+    AddList(lists.strings, NameKind::StringId, names, report);
+    return names;
+}
+
+} // namespace Vorn

@@ -1,6 +1,6 @@
 #include "tools/kelvanekit/findingreport.h"
 
-#include "tools/kelvanekit/textlines.h"
+#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/visibletext.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ FindingReport::FindingReport(const ReportOptions& _options, OutputStream& _outpu
 
 RenderedFindings FindingReport::Render(std::string_view name, std::string_view bytes, const Findings& findings) const {
     RenderedFindings rendered;
-    TextLines lines(bytes);
+    LineFinder lines(bytes);
     for (const Finding& finding : findings) {
         if (std::ranges::find(options.disabled, finding.code) != options.disabled.end()) {
             continue;

@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/filename.h"
 #include "tools/kelvanekit/findingcodes.h"
 #include "tools/kelvanekit/findingforms.h"
-#include "tools/kelvanekit/textlines.h"
+#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/version.h"
 #include "tools/kelvanekit/visibletext.h"
 

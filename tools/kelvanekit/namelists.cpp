@@ -6,8 +6,8 @@
 #include "engine/window/brushset.h"
 #include "tools/kelvanekit/check/readscope.h"
 #include "tools/kelvanekit/inputfile.h"
+#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/sources.h"
-#include "tools/kelvanekit/textlines.h"
 
 #include <algorithm>
 
@@ -100,7 +100,7 @@ void AddList(const std::string& fileName, NameKind kind, KnownNames& names, Find
         return;
     }
     names.Add(kind, {});
-    TextLines lines(input.Bytes());
+    LineFinder lines(input.Bytes());
     for (std::int32_t number = 1; lines.Has(number); ++number) {
         std::string_view line = lines.Line(number);
         line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));

@@ -2,7 +2,7 @@
 
 #include "tools/kelvanekit/findingcodes.h"
 #include "tools/kelvanekit/findingreport.h"
-#include "tools/kelvanekit/textlines.h"
+#include "tools/kelvanekit/linefinder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -40,7 +40,7 @@ Finding BinaryFinding() {
 std::string Printed(std::string_view form, const Findings& findings, std::string_view name = "a b/l\xC3\xA4mp.entity",
                     std::string_view text = kText) {
     std::string out;
-    TextLines lines(text);
+    LineFinder lines(text);
     for (const Finding& finding : findings) {
         FindForm(form)->print(out, {finding, finding.code->severity, name, lines.Line(finding.place.line)}, false);
     }
@@ -204,7 +204,7 @@ TEST(FindingFormsTest, FindingsAreLeftOutRaisedAndCounted) {
     EXPECT_EQ(rendered.ends.back(), rendered.text.size());
 }
 
-TEST(TextLinesTest, LinesOfAllEncodingsInAnyOrder) {
+TEST(LineFinderTest, LinesOfAllEncodingsInAnyOrder) {
     const std::string_view utf8 = "\xEF\xBB\xBF"
                                   "a\r\n\n\xE4\xBD\xA0 b\rc\nlast";
     std::string little;
@@ -217,7 +217,7 @@ TEST(TextLinesTest, LinesOfAllEncodingsInAnyOrder) {
         big += {high, low};
     }
     for (const std::string_view text : {utf8, std::string_view(little), std::string_view(big)}) {
-        TextLines lines(text);
+        LineFinder lines(text);
         for (const int number : {1, 4, 3, 2, 1, 4}) {
             constexpr std::string_view kLines[] = {"a", "", "\xE4\xBD\xA0 b\rc", "last"};
             EXPECT_EQ(lines.Line(number), kLines[number - 1]) << number;
@@ -226,9 +226,9 @@ TEST(TextLinesTest, LinesOfAllEncodingsInAnyOrder) {
         EXPECT_EQ(lines.Line(5), "");
         EXPECT_EQ(lines.Line(1), "a");
     }
-    EXPECT_EQ(TextLines("").Line(1), "");
-    EXPECT_EQ(TextLines("\xFF\xFE"
-                        "a")
+    EXPECT_EQ(LineFinder("").Line(1), "");
+    EXPECT_EQ(LineFinder("\xFF\xFE"
+                         "a")
                   .Line(1),
               "");
     EXPECT_EQ(CharacterColumn("\xF0\x9F\x98\x80\xFFx", 5), 3);

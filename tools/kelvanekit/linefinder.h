@@ -9,9 +9,9 @@ namespace Vorn {
 
 // Finds lines of a text file by their numbers, in any order, but fastest from top to bottom. The bytes are UTF-8, or
 // UTF-16 if a byte-order mark says so; a line ends with a line feed, with or without a carriage return in front.
-class TextLines {
+class LineFinder {
 public:
-    explicit TextLines(std::string_view bytes);
+    explicit LineFinder(std::string_view bytes);
 
     // The line of that number, from 1, as UTF-8 without its end; malformed UTF-8 stays as it is. Empty if there is
     // none.

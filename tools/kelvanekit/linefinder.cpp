@@ -1,4 +1,4 @@
-#include "tools/kelvanekit/textlines.h"
+#include "tools/kelvanekit/linefinder.h"
 
 #include "engine/string/utf8.h"
 
@@ -22,7 +22,7 @@ std::int32_t Column(std::string_view line, std::int32_t byte, Weight weight) {
 
 } // namespace
 
-TextLines::TextLines(std::string_view bytes) : text(bytes) {
+LineFinder::LineFinder(std::string_view bytes) : text(bytes) {
     if (bytes.starts_with("\xEF\xBB\xBF")) {
         text.remove_prefix(3);
     } else if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
@@ -32,11 +32,11 @@ TextLines::TextLines(std::string_view bytes) : text(bytes) {
 }
 
 // What follows the last line end counts as a line only if there is anything.
-bool TextLines::Has(std::int32_t number) {
+bool LineFinder::Has(std::int32_t number) {
     return GoTo(number) && place < text.size();
 }
 
-bool TextLines::GoTo(std::int32_t number) {
+bool LineFinder::GoTo(std::int32_t number) {
     if (number < current) {
         current = 1;
         place = 0;
@@ -49,7 +49,7 @@ bool TextLines::GoTo(std::int32_t number) {
     return number >= 1 && current == number;
 }
 
-std::string_view TextLines::Line(std::int32_t number) {
+std::string_view LineFinder::Line(std::int32_t number) {
     if (!GoTo(number)) {
         return {};
     }
@@ -70,7 +70,7 @@ std::string_view TextLines::Line(std::int32_t number) {
 }
 
 // Where the line that begins at a place has its line feed, or the end of the text.
-std::size_t TextLines::EndOf(std::size_t begin) const {
+std::size_t LineFinder::EndOf(std::size_t begin) const {
     if (encoding == Encoding::Utf8) {
         return std::min(text.find('\n', begin), text.size());
     }
@@ -80,7 +80,7 @@ std::size_t TextLines::EndOf(std::size_t begin) const {
     return std::min(begin, text.size());
 }
 
-char16_t TextLines::UnitAt(std::size_t at) const {
+char16_t LineFinder::UnitAt(std::size_t at) const {
     const auto first = static_cast<unsigned char>(text[at]);
     const auto second = static_cast<unsigned char>(text[at + 1]);
     return static_cast<char16_t>(encoding == Encoding::Utf16Little ? first | second << 8 : first << 8 | second);

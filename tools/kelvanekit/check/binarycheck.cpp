@@ -132,7 +132,6 @@ private:
         std::int32_t count;
     };
 
-
     void OnEnum(const EnumTable& table) override { nextTable = &table; }
     void OnName(NameKind kind) override { nextName = kind; }
     void OnList(const ListShape& shape) override {
@@ -265,9 +264,10 @@ Finding& BinaryReader::Add(const FindingCode* code, std::size_t offset, std::str
 }
 
 void BinaryReader::Handle(const char*, int, std::u16string_view text, bool isFailure) {
-    const bool isFlawed = !lists.empty() && (lists.back().shape.rule == ListRule::Exact ||
-                                             (lists.back().shape.limit != ListShape::kUnlimited &&
-                                              lists.back().count > lists.back().shape.limit));
+    const bool isFlawed =
+        !lists.empty() &&
+        (lists.back().shape.rule == ListRule::Exact ||
+         (lists.back().shape.limit != ListShape::kUnlimited && lists.back().count > lists.back().shape.limit));
     if (!isFailure || isFlawed) {
         return;
     }
@@ -368,8 +368,8 @@ void BinaryReader::CheckRow(StringBuffer buffer, const EnumTable& table) {
         return;
     }
     const std::size_t nearest = NearestOf(text, rows);
-    Finding& finding = Add(Code("unknown-text"), fieldPlace, Path(),
-                           Quoted(text) + " is no text of this key: it becomes `Invalid`");
+    Finding& finding =
+        Add(Code("unknown-text"), fieldPlace, Path(), Quoted(text) + " is no text of this key: it becomes `Invalid`");
     if (nearest != kNoneNear) {
         finding.help = "did you mean " + Quoted(rows[nearest]) + "?";
     }

@@ -166,9 +166,8 @@ private:
     std::size_t NextLine() const { return std::min(line + 1, lines.size() - 1); }
 
     bool HasFindingInList(std::int32_t list) const {
-        return std::ranges::any_of(asks, [&](const AskedField& field) {
-            return field.list == list && known.contains(field.line);
-        });
+        return std::ranges::any_of(
+            asks, [&](const AskedField& field) { return field.list == list && known.contains(field.line); });
     }
 
     static bool IsRounding(const AskedField& field, std::string_view value, std::string_view written) {

@@ -90,14 +90,12 @@ private:
             Add(Code("missing-header"), 0, "the first line should be `TXT2`");
             header = {0, isVersionFirst};
         } else {
-            Add(Code("missing-header"), 0, '`' + std::string(Trimmed(first).substr(0, 80)) +
-                                               "` stands where `TXT2` belongs");
+            Add(Code("missing-header"), 0,
+                '`' + std::string(Trimmed(first).substr(0, 80)) + "` stands where `TXT2` belongs");
         }
     }
 
-    static std::string_view FirstLine(const char* start) {
-        return {start, std::strcspn(start, "\r\n")};
-    }
+    static std::string_view FirstLine(const char* start) { return {start, std::strcspn(start, "\r\n")}; }
 
     // Whether nothing speaks for a content file: no header, no version, and not one of the first keys.
     bool IsForeign() const {
@@ -109,9 +107,8 @@ private:
         reader.Read(content);
         const Mismatch& at = reader.GetMismatch();
         const auto isProbed = [&](std::int32_t line) {
-            return std::ranges::any_of(at.probes, [&](const ProbedField& probe) {
-                return IsLabel(KeyOf(text.Line(line)), probe.label);
-            });
+            return std::ranges::any_of(
+                at.probes, [&](const ProbedField& probe) { return IsLabel(KeyOf(text.Line(line)), probe.label); });
         };
         return at.line == 0 && !isProbed(0) && !isProbed(1) && !isProbed(2);
     }
@@ -124,9 +121,8 @@ private:
         finding.code = at.isAbnormalEnd ? Code("ends-abnormally") : Code("unexpected-section");
         finding.place = {line + 1, 0, static_cast<std::int32_t>(text.Line(line).size())};
         finding.key = PathOf(reader.Asks(), static_cast<std::int32_t>(reader.Asks().size()) - 1);
-        finding.message = at.isAbnormalEnd
-                              ? "a conversion ends abnormally here"
-                              : "the lines from here on do not agree with the keys: they are not checked";
+        finding.message = at.isAbnormalEnd ? "a conversion ends abnormally here"
+                                           : "the lines from here on do not agree with the keys: they are not checked";
     }
 
     void Add(const FindingCode* code, std::int32_t line, std::string message) {
@@ -137,9 +133,8 @@ private:
     }
 
     static Findings Sorted(Findings all) {
-        std::ranges::stable_sort(all, {}, [](const Finding& finding) {
-            return std::tuple(finding.place.line, finding.place.begin);
-        });
+        std::ranges::stable_sort(
+            all, {}, [](const Finding& finding) { return std::tuple(finding.place.line, finding.place.begin); });
         return all;
     }
 

@@ -150,8 +150,9 @@ void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data
     constexpr std::size_t kTriangles = 3;
     const AskedFields& asks = reader.Asks();
     const std::vector<std::int32_t> lists = OuterLists(asks);
-    const std::vector<std::int32_t> triangles =
-        lists.size() > kTriangles && HasBadIndex(mesh) ? EntriesOf(asks, lists[kTriangles]) : std::vector<std::int32_t>();
+    const std::vector<std::int32_t> triangles = lists.size() > kTriangles && HasBadIndex(mesh)
+                                                    ? EntriesOf(asks, lists[kTriangles])
+                                                    : std::vector<std::int32_t>();
     const auto add = [&](std::int32_t ask, std::uint32_t value, std::uint32_t count) {
         if (asks[static_cast<std::size_t>(ask)].line != kNone) {
             Add(reader, text, Code("index-out-of-range"), ask, IndexMessage(value, count));

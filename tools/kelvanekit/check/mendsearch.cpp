@@ -268,8 +268,7 @@ private:
     }
 
     bool HasMendBehind(const Trial& trial, std::int32_t ask) const {
-        return std::ranges::any_of(trial.mends,
-                                   [&](const Mend& mend) { return !mend.IsOfLines() && mend.ask > ask; });
+        return std::ranges::any_of(trial.mends, [&](const Mend& mend) { return !mend.IsOfLines() && mend.ask > ask; });
     }
 
     static bool HasMendAt(const Trial& trial, std::int32_t ask, std::initializer_list<Mend::Kind> kinds) {

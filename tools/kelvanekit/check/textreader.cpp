@@ -182,9 +182,8 @@ bool TextReader::FindLine(Label label, FieldKind kind) {
 std::string_view TextReader::LineAhead() const {
     const auto left = static_cast<std::size_t>(text.End() - cursor);
     const void* lineFeed = left == 0 ? nullptr : std::memchr(cursor, '\n', left);
-    std::string_view content(cursor, lineFeed == nullptr
-                                         ? left
-                                         : static_cast<std::size_t>(static_cast<const char*>(lineFeed) - cursor));
+    std::string_view content(
+        cursor, lineFeed == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(lineFeed) - cursor));
     if (content.ends_with('\r')) {
         content.remove_suffix(1);
     }
@@ -220,8 +219,8 @@ void TextReader::TakeLine(Label label, FieldKind kind) {
         NoteMisspelt(label, takenText.substr(indentation, valueBegin - indentation));
     }
     if (swapLine == kNone) {
-        const auto* lineFeed = static_cast<const char*>(
-            std::memchr(cursor, '\n', static_cast<std::size_t>(text.End() - cursor)));
+        const auto* lineFeed =
+            static_cast<const char*>(std::memchr(cursor, '\n', static_cast<std::size_t>(text.End() - cursor)));
         cursor = lineFeed == nullptr ? text.End() : lineFeed + 1;
         ++line;
     } else if (!isSwapDone) {

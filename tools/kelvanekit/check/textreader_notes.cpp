@@ -63,8 +63,7 @@ TextRange Whole(std::string_view content) {
 void TextReader::Handle(const char*, int, std::u16string_view report, bool isFailure) {
     isUnclean = isUnclean || mode == Mode::Strict;
     if (mode == Mode::Noting && isFailure && !IsListFlawed()) {
-        failedChecks.push_back(
-            {std::string(Trimmed(ToUtf8(report))), static_cast<std::int32_t>(asks.size()) - 1});
+        failedChecks.push_back({std::string(Trimmed(ToUtf8(report))), static_cast<std::int32_t>(asks.size()) - 1});
     }
 }
 
@@ -116,8 +115,8 @@ Finding& TextReader::Add(const FindingCode* code, std::int32_t atLine, TextRange
 TextRange TextReader::ValueRange() const {
     const std::string_view content = text.Line(takenLine);
     const std::string_view key = KeyOf(content);
-    const std::string_view value = Trimmed(content.substr(static_cast<std::size_t>(key.data() - content.data()) +
-                                                          key.size()));
+    const std::string_view value =
+        Trimmed(content.substr(static_cast<std::size_t>(key.data() - content.data()) + key.size()));
     const auto begin = static_cast<std::int32_t>(value.data() - content.data());
     return {begin, begin + static_cast<std::int32_t>(value.size())};
 }
@@ -239,8 +238,9 @@ void TextReader::NoteChoice(std::u16string_view given, const EnumTable& table, s
     const auto* end = table.rows + table.rowCount;
     const bool isKnown = isTruth || given == u"Invalid" || std::find(table.rows, end, given) != end;
     const bool isType = table.rows == kEntityTypeTable.rows;
-    const std::u16string_view meant = isTruth ? (given == u"TRUE" ? u"FALSE" : u"TRUE")
-                                      : row == kInvalidEnum ? std::u16string_view() : table.rows[row];
+    const std::u16string_view meant = isTruth               ? (given == u"TRUE" ? u"FALSE" : u"TRUE")
+                                      : row == kInvalidEnum ? std::u16string_view()
+                                                            : table.rows[row];
     const FindingCode* code = isType ? Code("wrong-type") : Code("wrong-choice");
     std::string message = "the keys that follow are not those of " + Quoted(given);
     if (!isKnown) {
@@ -269,10 +269,10 @@ void TextReader::NoteCount(const OpenList& list) {
     };
     if (limit != ListShape::kUnlimited && std::max(list.entries, list.count) > limit &&
         list.shape.rule != ListRule::Keyed) {
-        add(Code("list-too-long"), "the list has " + std::to_string(std::max(list.entries, list.count)) +
-                                       " entries, and there is room for " + std::to_string(limit) +
-                                       (list.shape.rule == ListRule::Fatal ? ": a conversion ends abnormally"
-                                                                           : ": the others are lost"));
+        add(Code("list-too-long"),
+            "the list has " + std::to_string(std::max(list.entries, list.count)) + " entries, and there is room for " +
+                std::to_string(limit) +
+                (list.shape.rule == ListRule::Fatal ? ": a conversion ends abnormally" : ": the others are lost"));
     } else if (!list.isDoubtful && list.entries != list.count) {
         Finding& finding = add(Code("count-mismatch"), "the count is " + std::to_string(list.count) + ", but " +
                                                            std::to_string(list.entries) +
@@ -281,8 +281,8 @@ void TextReader::NoteCount(const OpenList& list) {
         finding.replacement = std::to_string(list.entries);
         finding.hasReplacement = true;
     } else if (list.shape.rule == ListRule::Exact && list.entries < limit) {
-        add(Code("count-mismatch"), "the list always has " + std::to_string(limit) +
-                                        " entries: empty ones are added").help = "write " + std::to_string(limit);
+        add(Code("count-mismatch"), "the list always has " + std::to_string(limit) + " entries: empty ones are added")
+            .help = "write " + std::to_string(limit);
     }
 }
 

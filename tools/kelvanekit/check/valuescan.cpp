@@ -163,8 +163,8 @@ void ValueScan::NoteRest(std::string_view number, std::size_t length) {
                std::string(rest.substr(1)) + '`';
     }
     Note(Code("number-with-rest"), rest,
-         Quoted(number) + " is not a number as a whole: " + Quoted(number.substr(0, length)) +
-             " is taken, and " + Quoted(rest) + " is lost",
+         Quoted(number) + " is not a number as a whole: " + Quoted(number.substr(0, length)) + " is taken, and " +
+             Quoted(rest) + " is lost",
          std::move(help));
 }
 
@@ -173,8 +173,8 @@ bool ValueScan::TakeWhole(std::string_view number, std::int64_t& value) {
     const std::size_t sign = number.starts_with('-') || number.starts_with('+') ? 1 : 0;
     const std::size_t length = sign + DigitsAt(number, sign);
     if (length == sign) {
-        Note(Code("number-expected"), number,
-             number.empty() ? "a number is missing" : Quoted(number) + " is no number", "write a whole number");
+        Note(Code("number-expected"), number, number.empty() ? "a number is missing" : Quoted(number) + " is no number",
+             "write a whole number");
         return false;
     }
     const std::string_view rest = number.substr(length);
@@ -222,8 +222,8 @@ void ValueScan::TakeFloat(std::string_view number, float& value) {
     }
     const std::size_t length = DecimalLength(number);
     if (length == 0) {
-        Note(Code("number-expected"), number,
-             number.empty() ? "a number is missing" : Quoted(number) + " is no number", "write a number");
+        Note(Code("number-expected"), number, number.empty() ? "a number is missing" : Quoted(number) + " is no number",
+             "write a number");
         return;
     }
     const std::string_view decimal = number.substr(0, length);
@@ -256,8 +256,7 @@ void ValueScan::Double(double& value) {
 void ValueScan::Color(std::uint32_t& value) {
     const bool hasPrefix = Lowered(text.substr(0, 2)) == "0x";
     const std::string_view digits = text.substr(hasPrefix ? 2 : 0);
-    const std::size_t length =
-        std::min(Lowered(digits).find_first_not_of("0123456789abcdef"), digits.size());
+    const std::size_t length = std::min(Lowered(digits).find_first_not_of("0123456789abcdef"), digits.size());
     const std::string_view taken = digits.substr(0, length);
     const std::size_t zeros = std::min(taken.find_first_not_of('0'), taken.size());
     if (length == digits.size() && length > 0 && length - zeros <= 8) {
@@ -266,8 +265,8 @@ void ValueScan::Color(std::uint32_t& value) {
     }
     const std::size_t begin = std::min(text.find_first_of("0123456789abcdefABCDEF"), text.size());
     const std::string_view tail = text.substr(begin);
-    const bool isBehind = !tail.empty() && tail.size() <= 8 && Lowered(tail).find_first_not_of("0123456789abcdef") ==
-                                                                   std::string::npos;
+    const bool isBehind =
+        !tail.empty() && tail.size() <= 8 && Lowered(tail).find_first_not_of("0123456789abcdef") == std::string::npos;
     std::string message = text.empty() ? "a colour is missing" : Quoted(text) + " is no colour";
     std::string help = "write up to eight hexadecimal digits: alpha, red, green and blue, two each";
     if (isBehind) {

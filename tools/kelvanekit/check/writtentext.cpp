@@ -63,8 +63,7 @@ std::string_view WithoutZeros(std::string_view digits) {
 }
 
 bool IsSameToken(std::string_view left, std::string_view right) {
-    return left == right ||
-           std::ranges::equal(WithoutZeros(left), WithoutZeros(right), {}, LowerHex, LowerHex) ||
+    return left == right || std::ranges::equal(WithoutZeros(left), WithoutZeros(right), {}, LowerHex, LowerHex) ||
            (right.find('.') != std::string_view::npos && SameDecimal(left, right));
 }
 

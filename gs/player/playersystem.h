@@ -2,6 +2,8 @@
 
 #include "engine/archive/fieldio.h"
 
+#include <vector>
+
 namespace Vorn {
 
 // Names that records hold as indexes; it only grows, so that an index stays valid.
@@ -24,7 +26,12 @@ public:
 private:
     using Name = FixedString<256>;
 
+    void MakePlaces();
+    std::int32_t& PlaceOf(std::u16string_view name);
+
     DynamicVector<Name> names;
+    // Indexes by the hash of their names, as many places as a power of two.
+    std::vector<std::int32_t> places;
 };
 
 // What is known of players while definitions are converted: the names of races and factions that they mention.

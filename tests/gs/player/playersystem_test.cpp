@@ -15,6 +15,17 @@ TEST(NameList, NumbersNamesInTheOrderOfTheirFirstMention) {
     EXPECT_EQ(names.GetText(2), u"Drifters");
 }
 
+TEST(NameList, FindsEachOfManyNames) {
+    NameList names;
+    const auto nameOf = [](int i) { return std::u16string(1 + i % 7, u'n') + static_cast<char16_t>(0x100 + i); };
+    for (int round = 0; round < 2; ++round) {
+        for (int i = 0; i < 5000; ++i) {
+            ASSERT_EQ(names.Resolve(nameOf(i)), i);
+        }
+    }
+    EXPECT_EQ(names.GetText(4999), nameOf(4999));
+}
+
 TEST(NameList, HasNoTextOutsideTheList) {
     NameList names;
     names.Resolve(u"Wardens");

@@ -26,20 +26,30 @@ FileArchiveSystem::~FileArchiveSystem() {
     CheckAssert(fileArchiveCount == 0, "fileArchiveCount == 0");
 }
 
+// What the header of a file says.
+struct FileArchiveSystem::Form {
+    FileArchiveType type;
+    bool hasVersion;
+};
+
+// In the reports each step counts as an opening of its own: to look for the one form, for the other, and to read.
 FileArchive* FileArchiveSystem::OpenForRead(std::u16string_view fileName, bool hasFloatBits) {
-    bool hasVersion = false;
-    const FileArchiveType type = DetectType(fileName, hasVersion);
-    if (type == FileArchiveType::Unknown) {
-        ReportErrorAt(u"Could not detect if Archive File is Binary or Text: %s", fileName);
-        return nullptr;
-    }
-    File* file = fileSystem.Open(fileName, FileAccess::Read, TranslationOf(type));
+    openFailure = OpenFailure::None;
+    File* file = fileSystem.Open(fileName, FileAccess::Read, FileTranslation::Binary);
     if (file == nullptr) {
+        FileSystem::ReportUnopened(fileName);
+        openFailure = OpenFailure::CannotOpen;
         return nullptr;
     }
-    SkipHeader(*file, type, hasVersion);
-    FileArchive* archive = Create(file, type, hasFloatBits);
-    if (hasVersion) {
+    const Form form = TakeHeader(*file, fileName);
+    if (form.type == FileArchiveType::Unknown) {
+        fileSystem.Close(file);
+        ReportErrorAt(u"Could not detect if Archive File is Binary or Text: %s", fileName);
+        openFailure = OpenFailure::NotAnArchive;
+        return nullptr;
+    }
+    FileArchive* archive = Create(file, form.type, hasFloatBits);
+    if (form.hasVersion) {
         std::int32_t version = Archive::kNoVersion;
         archive->Read(kVersionLabel, version);
         archive->SetVersion(version);
@@ -102,50 +112,45 @@ FileArchive* FileArchiveSystem::Make(File* file, FileArchiveType type, bool hasF
     }
 }
 
-FileArchiveType FileArchiveSystem::DetectType(std::u16string_view fileName, bool& hasVersion) {
-    if (DetectBinary(fileName, hasVersion)) {
-        return FileArchiveType::Binary;
+FileArchiveSystem::Form FileArchiveSystem::TakeHeader(File& file, std::u16string_view fileName) {
+    const Form form = DetectBinary(file);
+    if (form.type != FileArchiveType::Binary) {
+        return TakeTextHeader(file, fileName, form.hasVersion);
     }
-    return DetectText(fileName, hasVersion) ? FileArchiveType::Text : FileArchiveType::Unknown;
-}
-
-bool FileArchiveSystem::DetectBinary(std::u16string_view fileName, bool& hasVersion) {
-    File* file = fileSystem.Open(fileName, FileAccess::Read, FileTranslation::Binary);
-    if (file == nullptr) {
-        return false;
-    }
-    unsigned char header[kHeaderSize] = {};
-    for (unsigned char& byte : header) {
-        file->Read(&byte, 1, 1);
-    }
-    fileSystem.Close(file);
-    hasVersion = header[kBinaryMarkSize] == kVersionMark;
-    return std::equal(header, header + kBinaryMarkSize, kBinaryHeader);
-}
-
-// A file that does not open is closed all the same: a missing source ends the process here.
-bool FileArchiveSystem::DetectText(std::u16string_view fileName, bool& hasVersion) {
-    HeaderLine line;
-    File* file = fileSystem.Open(fileName, FileAccess::Read, FileTranslation::Text);
-    if (file != nullptr) {
-        file->GetString(line.Buffer());
-    }
-    fileSystem.Close(file);
-    hasVersion = hasVersion || line.View().find(kVersionMark) != std::u16string_view::npos;
-    return line.View().find(kTextMark) != std::u16string_view::npos;
-}
-
-void FileArchiveSystem::SkipHeader(File& file, FileArchiveType type, bool hasVersion) {
-    if (type == FileArchiveType::Text) {
-        HeaderLine line;
-        file.GetString(line.Buffer());
-        return;
-    }
-    const int size = hasVersion ? kHeaderSize : kOldBinaryHeaderSize;
+    FileSystem::Reopen(file, fileName, FileTranslation::Binary);
+    const int size = form.hasVersion ? kHeaderSize : kOldBinaryHeaderSize;
     for (int i = 0; i < size; ++i) {
         unsigned char skipped = 0;
         file.Read(&skipped, 1, 1);
     }
+    return form;
+}
+
+// Leaves the header where it is. Each byte that is not there is reported.
+FileArchiveSystem::Form FileArchiveSystem::DetectBinary(File& file) {
+    const std::string_view start = file.PeekBytes(kHeaderSize);
+    for (std::size_t missing = start.size(); missing < kHeaderSize; ++missing) {
+        file.ReportShortRead(1, 0);
+    }
+    const bool isBinary =
+        start.size() >= kBinaryMarkSize && std::equal(kBinaryHeader, kBinaryHeader + kBinaryMarkSize, start.begin());
+    return {isBinary ? FileArchiveType::Binary : FileArchiveType::Unknown,
+            start.size() > kBinaryMarkSize && start[kBinaryMarkSize] == kVersionMark};
+}
+
+FileArchiveSystem::Form FileArchiveSystem::TakeTextHeader(File& file, std::u16string_view fileName, bool hasVersion) {
+    HeaderLine line;
+    FileSystem::Reopen(file, fileName, FileTranslation::Text);
+    file.GetString(line.Buffer());
+    const std::u16string_view text = line.View();
+    if (text.find(kTextMark) == std::u16string_view::npos) {
+        return {FileArchiveType::Unknown, hasVersion};
+    }
+    FileSystem::Reopen(file, fileName, FileTranslation::Text);
+    if (text.back() != u'\n') {
+        file.ReportOpenLine();
+    }
+    return {FileArchiveType::Text, hasVersion || text.find(kVersionMark) != std::u16string_view::npos};
 }
 
 void FileArchiveSystem::WriteHeader(File* file, FileArchiveType type) {

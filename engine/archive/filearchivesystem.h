@@ -12,6 +12,9 @@ public:
     virtual FileArchive* Make(bool hasFloatBits) = 0;
 };
 
+// Why a file could not become an archive.
+enum class OpenFailure { None, CannotOpen, NotAnArchive };
+
 // The one place where a file becomes an archive: it tells a file's form, skips or writes the header and handles the
 // version. A loader names only a path, so that text and binary files stand for each other everywhere.
 class FileArchiveSystem {
@@ -23,8 +26,12 @@ public:
     FileArchiveSystem& operator=(const FileArchiveSystem&) = delete;
     virtual ~FileArchiveSystem();
 
-    // Null, after a report, for a file that is neither form. A file that cannot be opened ends the process abnormally.
+    // Opens the file once and detects its form. Null, after a report, for a file that cannot be opened, which is
+    // reported twice, or that is neither form; GetOpenFailure says which.
     FileArchive* OpenForRead(std::u16string_view fileName, bool hasFloatBits);
+
+    // What became of the latest OpenForRead.
+    OpenFailure GetOpenFailure() const { return openFailure; }
 
     // Null, after a report, if the file cannot be opened. The Steam form has no file, header or version: its archives
     // are those of the remote storage, and null comes back where none was set.
@@ -48,16 +55,18 @@ public:
 
 private:
     FileArchive* Make(File* file, FileArchiveType type, bool hasFloatBits) const;
-    FileArchiveType DetectType(std::u16string_view fileName, bool& hasVersion);
-    bool DetectBinary(std::u16string_view fileName, bool& hasVersion);
-    bool DetectText(std::u16string_view fileName, bool& hasVersion);
-    static void SkipHeader(File& file, FileArchiveType type, bool hasVersion);
+    struct Form;
+
+    static Form TakeHeader(File& file, std::u16string_view fileName);
+    static Form DetectBinary(File& file);
+    static Form TakeTextHeader(File& file, std::u16string_view fileName, bool hasVersion);
     static void WriteHeader(File* file, FileArchiveType type);
 
     FileSystem& fileSystem;
     const FieldContext& context;
     ArchiveMaker* remoteStorage = nullptr;
     std::int32_t fileArchiveCount = 0;
+    OpenFailure openFailure = OpenFailure::None;
 };
 
 // An archive that is given back at the end of its scope, also when an exception leaves it. Null gives nothing back.

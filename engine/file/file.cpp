@@ -101,11 +101,15 @@ bool File::GetString(StringBuffer line, int& length) {
         return true;
     }
     if (kind == LineKind::Open) {
-        ReportErrorAt(u"Missing \n in %s\n\nThis is a mostly harmless error message usually caused by forgetting to "
-                      u"hit enter at the end of the last line of the file",
-                      name);
+        ReportOpenLine();
     }
     return false;
+}
+
+void File::ReportOpenLine() const {
+    ReportErrorAt(u"Missing \n in %s\n\nThis is a mostly harmless error message usually caused by forgetting to hit "
+                  u"enter at the end of the last line of the file",
+                  name);
 }
 
 void File::ReportShortRead(int count, int result) const {

@@ -68,6 +68,16 @@ public:
     const char* PeekText() const { return reinterpret_cast<const char*>(input.Cursor()); }
     void SkipText(const char* end) { input.SkipTo(reinterpret_cast<const unsigned char*>(end)); }
 
+    // The next bytes without taking them: as many as `count`, at most kFileBlock, and fewer only at the end of the
+    // file.
+    std::string_view PeekBytes(std::size_t count) {
+        input.Ensure(count);
+        return {PeekText(), std::min(count, input.Available())};
+    }
+
+    // Reports a line without its line feed.
+    void ReportOpenLine() const;
+
     // Reads up to `count` elements and returns how many were there whole; fewer are reported. The bytes of a partial
     // element are consumed.
     int Read(void* elements, int elementSize, int count) {

@@ -17,12 +17,21 @@ File* FileSystem::Open(std::u16string_view name, FileAccess access, FileTranslat
     CheckAssert(translation == FileTranslation::Text || translation == FileTranslation::Binary, "false");
     File* file = new File(access, translation);
     if (!file->Open(store, name)) {
-        ReportError(u"Failed to Open File: '%s'\n", name);
+        ReportUnopened(name);
         delete file;
         return nullptr;
     }
     openFiles.Append(file);
     return file;
+}
+
+void FileSystem::Reopen(File& file, std::u16string_view name, FileTranslation translation) {
+    file.translation = translation;
+    file.name.Assign(name);
+}
+
+void FileSystem::ReportUnopened(std::u16string_view name) {
+    ReportError(u"Failed to Open File: '%s'\n", name);
 }
 
 void FileSystem::Close(File* file) {

@@ -22,6 +22,13 @@ public:
     // Null, after a report, if the platform cannot open the name; a directory cannot be opened.
     File* Open(std::u16string_view name, FileAccess access, FileTranslation translation);
 
+    // Stands for opening a file once more that is open, for reading with another translation from the place where it
+    // stands: a source that cannot be opened twice looks like one that can. The name is checked as Open does.
+    static void Reopen(File& file, std::u16string_view name, FileTranslation translation);
+
+    // What Open reports for a name that does not open.
+    static void ReportUnopened(std::u16string_view name);
+
     // Frees the file. Null ends the process abnormally.
     void Close(File* file);
 

@@ -15,7 +15,7 @@ public:
     BrushSet& operator=(const BrushSet&) = delete;
     ~BrushSet() { ReleaseTextures(); }
 
-    // Leaves the set empty if the file is no archive.
+    // Leaves the set empty if the file cannot be opened or is no archive.
     void Load(FileArchiveSystem& archives);
 
     void Fields(FieldIo& io);

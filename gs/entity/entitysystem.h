@@ -20,8 +20,8 @@ public:
     // those of this system.
     const FieldContext& GetContext() const { return context; }
 
-    // The definition in a file, named after the file's stem. Null, after its report, for a file that is no archive, a
-    // type without a class and a stem of 80 or more units. Damage inside only reports.
+    // The definition in a file, named after the file's stem. Null, after its report, for a file that cannot be opened
+    // or is no archive, a type without a class and a stem of 80 or more units. Damage inside only reports.
     std::unique_ptr<EntityDef> LoadEntityDef(std::u16string_view path);
 
     // A fresh definition; null, after the check "false", for a type without a class.

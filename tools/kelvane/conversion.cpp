@@ -22,9 +22,20 @@ bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     return static_cast<bool>(archive);
 }
 
-// A mesh that was not found ends the process where it would be written, with the destination open.
+// A source that cannot be opened ends the process, ahead of the destination.
+void EndIfUnopened(const Core& core) {
+    if (core.fileArchiveSystem.GetOpenFailure() == OpenFailure::CannotOpen) {
+        EndAbnormally();
+    }
+}
+
+// A mesh that was found and cannot be loaded ends the process, ahead of the destination. One that was not found ends it
+// where it would be written, with the destination open.
 void ConvertMesh(Core& core, const Conversion& conversion) {
     Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
+    if (core.fileArchiveSystem.GetOpenFailure() != OpenFailure::None) {
+        EndAbnormally();
+    }
     WriteDestination(core, conversion, [&](Archive& archive) {
         if (mesh == nullptr) {
             EndAbnormally();
@@ -38,6 +49,7 @@ void ConvertMesh(Core& core, const Conversion& conversion) {
 void ConvertBrushes(Core& core, const Conversion& conversion) {
     BrushSet brushSet(conversion.source);
     brushSet.Load(core.fileArchiveSystem);
+    EndIfUnopened(core);
     WriteDestination(core, conversion, [&](Archive& archive) {
         FieldIo io(archive, FieldIo::Direction::Write);
         brushSet.Fields(io);
@@ -48,6 +60,7 @@ void ConvertBrushes(Core& core, const Conversion& conversion) {
 void ConvertEntity(Core& core, const Conversion& conversion) {
     EntitySystem entitySystem(core.fileArchiveSystem);
     const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(conversion.source);
+    EndIfUnopened(core);
     if (definition != nullptr) {
         WriteDestination(core, conversion,
                          [&](Archive& archive) { entitySystem.WriteEntityDef(archive, *definition); });
@@ -57,6 +70,7 @@ void ConvertEntity(Core& core, const Conversion& conversion) {
 void ConvertParticle(Core& core, const Conversion& conversion) {
     ParticleSimulationDefinition definition;
     ParticleSimulationDefinitionSystem(core.fileArchiveSystem).Load(definition, conversion.source);
+    EndIfUnopened(core);
     definition.StripFilePaths();
     if (WriteDestination(core, conversion,
                          [&](Archive& archive) { archive.Write(ParticleSimulationDefinition::kLabel, definition); })) {

@@ -88,9 +88,9 @@ public:
 
         using VertexIndexVector = DynamicVector<std::int32_t>;
 
-        // Reads the file at `path`, either form. A file that is neither ends the process abnormally, and so does an
-        // array count that is missing, negative or beyond kMaxListBytes.
-        void Load(FileArchiveSystem& archives, std::u16string_view path);
+        // Reads the file at `path`, either form. False, after reports, for a file that cannot be opened or that is
+        // neither form. An array count that is missing, negative or too large ends the process abnormally.
+        bool Load(FileArchiveSystem& archives, std::u16string_view path);
 
         void Fields(FieldIo& io) override;
 

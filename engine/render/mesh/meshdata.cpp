@@ -114,16 +114,16 @@ void Mesh::Data::ComputeCachedVertexIndices() {
     CacheVertexIndices(vertices, BoundingRadius, cachedVertexIndices);
 }
 
-void Mesh::Data::Load(FileArchiveSystem& archives, std::u16string_view path) {
+bool Mesh::Data::Load(FileArchiveSystem& archives, std::u16string_view path) {
     CheckAssert(!isLoaded, "!isLoaded || g_Game.debugMenu->hotloadTextures");
-    isLoaded = true;
     fileName.Assign(path);
     const ScopedArchive archive(archives, archives.OpenForRead(path, false));
-    if (!archive) {
-        EndAbnormally();
+    isLoaded = static_cast<bool>(archive);
+    if (isLoaded) {
+        archive->Read(kLabel, *this);
+        version = archive->GetVersion();
     }
-    archive->Read(kLabel, *this);
-    version = archive->GetVersion();
+    return isLoaded;
 }
 
 } // namespace Vorn

@@ -18,8 +18,12 @@ Mesh* MeshSystem::GetMesh(std::u16string_view name, const Mesh::LoadParams& load
         return nullptr;
     }
     Mesh* mesh = FindOrAddMesh(path, loadParams);
-    if (loadDataOnGet && !mesh->data.isLoaded) {
-        LoadTimed(*mesh);
+    if (loadDataOnGet && !mesh->data.isLoaded && !LoadTimed(*mesh)) {
+        if (mesh->m_RefCount == 0) {
+            Free(static_cast<int>(std::find(m_MeshPtrVector.begin(), m_MeshPtrVector.end(), mesh) -
+                                  m_MeshPtrVector.begin()));
+        }
+        return nullptr;
     }
     ++mesh->m_RefCount;
     return mesh;
@@ -50,10 +54,11 @@ Mesh* MeshSystem::FindOrAddMesh(const DataPath& path, const Mesh::LoadParams& lo
     return mesh;
 }
 
-void MeshSystem::LoadTimed(Mesh& mesh) {
+bool MeshSystem::LoadTimed(Mesh& mesh) {
     const auto start = std::chrono::steady_clock::now();
-    mesh.data.Load(archives, mesh.resolvedName.View());
+    const bool isLoaded = mesh.data.Load(archives, mesh.resolvedName.View());
     loadSeconds += std::chrono::duration<float>(std::chrono::steady_clock::now() - start).count();
+    return isLoaded;
 }
 
 void MeshSystem::ReleaseMesh(Mesh* mesh) {

@@ -17,7 +17,8 @@ public:
     MeshSystem& operator=(const MeshSystem&) = delete;
     ~MeshSystem() { FreeAll(); }
 
-    // The mesh of a file that FindMeshFile finds, with one more reference; null, after a report, if there is none.
+    // The mesh of a file that FindMeshFile finds, with one more reference; null, after reports, if there is none or the
+    // file cannot be loaded.
     Mesh* GetMesh(std::u16string_view name, const Mesh::LoadParams& loadParams);
 
     // Takes one reference back; a mock mesh is destroyed. Null ends the process abnormally after its check.
@@ -49,7 +50,7 @@ private:
 
     Mesh* MakeMockMesh(std::u16string_view name) const;
     Mesh* FindOrAddMesh(const DataPath& path, const Mesh::LoadParams& loadParams);
-    void LoadTimed(Mesh& mesh);
+    bool LoadTimed(Mesh& mesh);
     void Free(int i);
 
     FileSystem& fileSystem;

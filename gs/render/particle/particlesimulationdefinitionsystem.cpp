@@ -7,7 +7,7 @@ namespace Vorn {
 void ParticleSimulationDefinitionSystem::Load(ParticleSimulationDefinition& definition, std::u16string_view path) {
     {
         const ScopedArchive archive(archives, archives.OpenForRead(path, false));
-        CheckAssert(static_cast<bool>(archive), "fileArchive != 0");
+        CheckAssert(archives.GetOpenFailure() != OpenFailure::NotAnArchive, "fileArchive != 0");
         if (!archive) {
             return;
         }

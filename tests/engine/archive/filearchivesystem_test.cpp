@@ -56,6 +56,80 @@ TEST_F(FileArchiveSystemTest, RefusesWhatIsNeither) {
     EXPECT_EQ(core->fileArchiveSystem.GetFileArchiveCount(), 0);
 }
 
+// Files of a store that deliver their bytes one by one, and that open once only.
+class OnceStore final : public FileStore {
+public:
+    std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override {
+        return ++opened == 1 ? std::make_unique<Stream>(bytes) : nullptr;
+    }
+    bool Exists(std::u16string_view) const override { return true; }
+
+    std::string bytes;
+    int opened = 0;
+
+private:
+    class Stream final : public ByteStream {
+    public:
+        explicit Stream(std::string_view _bytes) : bytes(_bytes) {}
+        std::ptrdiff_t Read(void* place, std::size_t count) override {
+            const std::size_t taken = bytes.copy(static_cast<char*>(place), std::min<std::size_t>(count, 1));
+            bytes.remove_prefix(taken);
+            return static_cast<std::ptrdiff_t>(taken);
+        }
+        bool Write(const void*, std::size_t) override { return false; }
+        bool Close() override { return true; }
+
+    private:
+        std::string_view bytes;
+    };
+};
+
+TEST_F(FileArchiveSystemTest, OpensASourceOnceAndReportsAsIfOpenedForEachStep) {
+    struct Row {
+        std::string bytes;
+        // Short reads of single bytes, and lines without a line feed.
+        int shortReads;
+        int openLines;
+        OpenFailure failure;
+    };
+    const Row rows[] = {{"TXT2\nZephArchiveVersion 194\nn 5\n", 0, 0, OpenFailure::None},
+                        {std::string("BIN2\n\xC2\0\0\0\5\0\0\0", 13), 0, 0, OpenFailure::None},
+                        {"BIN", 2 + 1, 0, OpenFailure::None},
+                        {"TXT", 2, 2, OpenFailure::None},
+                        {"TXT" + std::string(300, ' ') + "\n", 0, 2, OpenFailure::None},
+                        {"text", 1, 1, OpenFailure::NotAnArchive},
+                        {"", 5, 0, OpenFailure::NotAnArchive}};
+    for (const Row& row : rows) {
+        OnceStore store;
+        store.bytes = row.bytes;
+        FileSystem files(store);
+        FileArchiveSystem archives(files, core->fileArchiveSystem.GetContext());
+        FileArchive* archive = archives.OpenForRead(u"source", false);
+        EXPECT_EQ(archives.GetOpenFailure(), row.failure) << row.bytes;
+        EXPECT_EQ(archive != nullptr, row.failure == OpenFailure::None) << row.bytes;
+        archives.Close(archive);
+        EXPECT_EQ(files.OpenCount(), 0);
+        EXPECT_EQ(store.opened, 1);
+        const Reports reports = TakeReports();
+        const auto count = [&](std::string_view start) {
+            return std::count_if(reports.begin(), reports.end(),
+                                 [&](const std::string& report) { return report.starts_with(start); });
+        };
+        EXPECT_EQ(count("Failed to Read File 'source'. desired read bytes = 1, actual"), row.shortReads) << row.bytes;
+        EXPECT_EQ(count("Missing \n in source"), row.openLines) << row.bytes;
+    }
+}
+
+TEST_F(FileArchiveSystemTest, AFileThatDoesNotOpenIsReportedTwice) {
+    EXPECT_EQ(core->fileArchiveSystem.OpenForRead(NameIn("missing"), false), nullptr);
+    EXPECT_EQ(core->fileArchiveSystem.GetOpenFailure(), OpenFailure::CannotOpen);
+    EXPECT_EQ(TakeReports(), Reports(2, "Failed to Open File: '" + Utf8(NameIn("missing")) + "'\n"));
+    Mesh::Data data;
+    EXPECT_FALSE(data.Load(core->fileArchiveSystem, NameIn("missing")));
+    EXPECT_FALSE(data.isLoaded);
+    TakeReports();
+}
+
 TEST_F(FileArchiveSystemTest, ChecksItsCountAndVersions) {
     FileArchive* archive = core->fileArchiveSystem.OpenForRead(Put("a", "TXT2\nZephArchiveVersion 3\n"), false);
     archive->SetVersion(5);

@@ -4,6 +4,8 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace Vorn {
@@ -88,6 +90,15 @@ TEST_F(DriverTest, SourcesThatDoNotOpenEndTheProcess) {
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(Get("dest"), "untouched");
     }
+}
+
+TEST_F(DriverTest, PipesAreSources) {
+    const std::string pipe = (folder.Path() / "pipe").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    std::thread writer([&] { WriteBytes(pipe, kEmptySet); });
+    ExpectReports({"brushes", "pipe", "dest"}, "");
+    writer.join();
+    EXPECT_EQ(Get("dest"), kEmptyBinary);
 }
 
 TEST_F(DriverTest, DestinationsThatFail) {

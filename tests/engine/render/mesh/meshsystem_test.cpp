@@ -71,6 +71,12 @@ TEST_F(MeshSystemTest, AMissingMeshIsSearchedAndReported) {
                                       "Could not find Mesh: no folder/ghost.v2.dds\n"}));
 }
 
+TEST_F(MeshSystemTest, AFileThatIsNoMeshIsNotKept) {
+    EXPECT_EQ(Meshes().GetMesh(Put("text.mesh", "neither form\n"), {}), nullptr);
+    EXPECT_EQ(Meshes().MeshCount(), 0);
+    EXPECT_EQ(TakeReports().size(), 1u);
+}
+
 TEST_F(MeshSystemTest, AMeshDirectoryHidesNamesThatExist) {
     const std::u16string name = PutMesh("cutter.mesh", 12.0f);
     Meshes().SetMeshDirectory(u"Mesh");

@@ -97,8 +97,8 @@ public:
         value.Read(label, *this);
         nextName = NameKind::None;
     }
-    void Read(Label label, Archivable& value, std::int32_t version) override {
-        ReadGroup(label, [&] { value.Read(*this, version); });
+    void Read(Label label, Archivable& value, std::int32_t _version) override {
+        ReadGroup(label, [&] { value.Read(*this, _version); });
     }
     void Read(Label label, Archivable& value) override {
         ReadGroup(label, [&] { value.Read(*this); });
@@ -148,17 +148,17 @@ private:
     void ReadHeader() {
         const bool hasVersion = bytes.size() > kBinaryMarkSize && bytes[kBinaryMarkSize] == kVersionMark;
         place = std::min<std::size_t>(bytes.size(), hasVersion ? sizeof kBinaryHeader : kOldBinaryHeaderSize);
-        std::int32_t version = kNoVersion;
+        std::int32_t fileVersion = kNoVersion;
         if (hasVersion) {
-            Read(kVersionLabel, version);
+            Read(kVersionLabel, fileVersion);
         }
-        SetVersion(version);
-        if (version > kArchiveVersion) {
+        SetVersion(fileVersion);
+        if (fileVersion > kArchiveVersion) {
             Add(Code("newer-version"), fieldPlace, Path(),
-                "version " + std::to_string(version) + " is later than " + std::to_string(kArchiveVersion));
-        } else if (version < kArchiveVersion) {
+                "version " + std::to_string(fileVersion) + " is later than " + std::to_string(kArchiveVersion));
+        } else if (fileVersion < kArchiveVersion) {
             Add(Code("older-version"), fieldPlace, Path(),
-                hasVersion ? "the file is of version " + std::to_string(version) : "the file has no version");
+                hasVersion ? "the file is of version " + std::to_string(fileVersion) : "the file has no version");
         }
     }
 

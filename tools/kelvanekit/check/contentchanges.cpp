@@ -45,6 +45,8 @@ public:
         : text(_text), reader(_reader), asks(_reader.Asks()), lines(LinesOf(written)), ask(firstAsk) {
         for (const Finding& finding : reader.GetFindings()) {
             known.insert(finding.place.line - 1);
+            hasErrors =
+                hasErrors || (finding.code->severity == Severity::Error && finding.code != Code("index-out-of-range"));
         }
     }
 
@@ -147,7 +149,7 @@ private:
         const std::string becomes = '`' + std::string(written.value) + '`';
         if (IsInList(field, ListRule::Derived)) {
             const std::int32_t list = field.isCount ? static_cast<std::int32_t>(&field - asks.data()) : field.list;
-            if (staleLists.insert(list).second && !HasFindingInList(list)) {
+            if (!hasErrors && staleLists.insert(list).second && !HasFindingInList(list)) {
                 Add(Code("stale-index-list"), asks[static_cast<std::size_t>(list)],
                     "the list is not what the other data give: it is made anew");
             }
@@ -199,6 +201,8 @@ private:
     std::size_t line = 0;
     std::set<std::int32_t> known;
     std::set<std::int32_t> staleLists;
+    // Lists that are made of other data differ by mistakes in these.
+    bool hasErrors = false;
 };
 
 void NoteVersion(const SourceText& text, TextReader& reader, bool hasVersion, const std::string& gained) {

@@ -41,14 +41,14 @@ public:
             return std::move(findings);
         }
         LoadedContent content(kind);
-        TextReader reader(text, header, TextReader::Mode::Noting, options.names, FindMends(kind, text, header));
+        TextReader reader(text, header, TextReader::Mode::Noting, options.names, FindMends());
         const bool isRead = reader.Read(content);
         std::ranges::move(findings, std::back_inserter(reader.GetFindings()));
         findings.clear();
         if (isRead) {
             NoteRelations(text, reader, content);
-            NoteFailedChecks(text, reader);
             NoteChanges(text, reader, content);
+            NoteFailedChecks(text, reader);
         } else {
             NoteEnd(reader);
         }
@@ -56,6 +56,24 @@ public:
     }
 
 private:
+    // Counts that were left open are those that were found.
+    Mends FindMends() const {
+        Mends mends = Vorn::FindMends(kind, text, header);
+        const auto isOpen = [](const Mend& mend) { return mend.kind == Mend::Kind::OpenCount; };
+        if (std::ranges::any_of(mends, isOpen)) {
+            LoadedContent content(kind);
+            TextReader reader(text, header, TextReader::Mode::Noting, nullptr, mends);
+            reader.Read(content);
+            for (Mend& mend : mends) {
+                if (isOpen(mend) && static_cast<std::size_t>(mend.ask) < reader.Asks().size()) {
+                    mend.kind = Mend::Kind::Count;
+                    mend.value = reader.Asks()[static_cast<std::size_t>(mend.ask)].value;
+                }
+            }
+        }
+        return mends;
+    }
+
     bool IsFlawless() {
         LoadedContent content(kind);
         TextReader reader(text, header, TextReader::Mode::Strict, options.names);

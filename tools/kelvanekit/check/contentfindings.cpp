@@ -10,7 +10,7 @@ namespace Vorn {
 
 namespace {
 
-constexpr std::size_t kFarthestName = 300;
+constexpr std::int32_t kFarthestName = 300;
 
 Finding& Add(TextReader& reader, const SourceText& text, const FindingCode* code, std::int32_t ask,
              std::string message) {
@@ -75,6 +75,14 @@ std::int32_t RowAskOf(const AskedFields& asks, std::int32_t entry) {
     return children.empty() ? kNone : children[0];
 }
 
+// Whether there is a finding at a field or in the group that it begins.
+bool HasFinding(const Findings& findings, const std::string& path) {
+    return std::ranges::any_of(findings, [&](const Finding& finding) {
+        return finding.key.starts_with(path) && (finding.key.size() == path.size() || finding.key[path.size()] == '.' ||
+                                                 finding.key[path.size()] == '[');
+    });
+}
+
 void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list) {
     const AskedFields& asks = reader.Asks();
     std::set<std::int32_t> rows;
@@ -82,6 +90,9 @@ void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list
         const std::int32_t ask = RowAskOf(asks, entry);
         const AskedField* field = ask == kNone ? nullptr : &asks[static_cast<std::size_t>(ask)];
         if (field == nullptr || field->table == nullptr || field->line == kNone) {
+            continue;
+        }
+        if (field->value == kInvalidEnum && HasFinding(reader.GetFindings(), PathOf(asks, ask))) {
             continue;
         }
         if (field->value == kInvalidEnum) {
@@ -153,12 +164,23 @@ void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data
     const std::vector<std::int32_t> triangles = lists.size() > kTriangles && HasBadIndex(mesh)
                                                     ? EntriesOf(asks, lists[kTriangles])
                                                     : std::vector<std::int32_t>();
+    std::set<std::int32_t> known = LinesWithFindings(reader.GetFindings());
+    known.insert(kNone);
     const auto add = [&](std::int32_t ask, std::uint32_t value, std::uint32_t count) {
-        if (asks[static_cast<std::size_t>(ask)].line != kNone) {
+        if (!known.contains(asks[static_cast<std::size_t>(ask)].line)) {
             Add(reader, text, Code("index-out-of-range"), ask, IndexMessage(value, count));
         }
     };
+    // A list that lacks entries is told at its count.
+    const auto isFlawed = [&](std::size_t list) {
+        return list < lists.size() && HasFinding(reader.GetFindings(), PathOf(asks, lists[list]));
+    };
+    const bool hasMaterials = !isFlawed(0);
+    const bool hasVertices = !isFlawed(2);
     ForEachBadIndex(mesh, [&](std::int32_t triangle, std::int32_t i, std::uint32_t value, std::uint32_t count) {
+        if (i < 3 ? !hasVertices : !hasMaterials) {
+            return;
+        }
         const auto place = static_cast<std::size_t>(triangle);
         const std::vector<std::int32_t> children =
             place < triangles.size() ? ChildrenOf(asks, triangles[place]) : std::vector<std::int32_t>();
@@ -170,8 +192,9 @@ void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data
     for (std::size_t list = kTriangles + 1; list < lists.size() && list <= kTriangles + Mesh::Data::kDirectionCount;
          ++list) {
         const auto& indices = mesh.cachedVertexIndices[static_cast<int>(list - kTriangles - 1)];
-        const bool isBad = std::ranges::any_of(
-            indices, [&](std::int32_t index) { return static_cast<std::uint32_t>(index) >= vertexCount; });
+        const bool isBad = hasVertices && std::ranges::any_of(indices, [&](std::int32_t index) {
+                               return static_cast<std::uint32_t>(index) >= vertexCount;
+                           });
         const std::vector<std::int32_t> entries = isBad ? EntriesOf(asks, lists[list]) : std::vector<std::int32_t>();
         for (std::size_t i = 0; i < entries.size() && i < static_cast<std::size_t>(indices.Size()); ++i) {
             const auto index = static_cast<std::uint32_t>(indices[static_cast<int>(i)]);
@@ -182,18 +205,20 @@ void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data
     }
 }
 
-// The ask that a failed check is about.
-std::int32_t AskOf(const AskedFields& asks, const FailedCheck& check) {
-    std::int32_t ask = check.ask;
+// The asks that a failed check speaks of, the latest first and each key once.
+std::vector<std::int32_t> AsksOf(const AskedFields& asks, const FailedCheck& check) {
+    std::vector<std::int32_t> result;
     const bool isChoice = check.expression == "false";
-    for (std::size_t i = 0; i < kFarthestName && ask >= 0; ++i, --ask) {
+    for (std::int32_t ask = check.ask; ask >= 0 && ask + kFarthestName > check.ask; --ask) {
         const AskedField& field = asks[static_cast<std::size_t>(ask)];
-        if (isChoice ? field.table != nullptr : SpeaksOf(check.expression, field.label, field.isCount)) {
-            return ask;
+        const bool isKnown = std::ranges::any_of(result, [&](std::int32_t other) {
+            return isChoice || asks[static_cast<std::size_t>(other)].label == field.label;
+        });
+        if (!isKnown && (isChoice ? field.table != nullptr : SpeaksOf(check.expression, field.label, field.isCount))) {
+            result.push_back(ask);
         }
     }
-    const std::int32_t parent = check.ask < 0 ? kNone : asks[static_cast<std::size_t>(check.ask)].parent;
-    return parent != kNone ? parent : check.ask;
+    return result;
 }
 
 } // namespace
@@ -218,16 +243,20 @@ void NoteRelations(const SourceText& text, TextReader& reader, const LoadedConte
     }
 }
 
+// A check that speaks of fields with findings is taken for their consequence.
 void NoteFailedChecks(const SourceText& text, TextReader& reader) {
-    std::set<std::int32_t> known = LinesWithFindings(reader.GetFindings());
+    const AskedFields& asks = reader.Asks();
     for (const FailedCheck& check : reader.FailedChecks()) {
-        const std::int32_t ask = AskOf(reader.Asks(), check);
-        if (ask == kNone) {
-            continue;
+        std::vector<std::int32_t> named = AsksOf(asks, check);
+        if (named.empty() && check.ask != kNone) {
+            named.push_back(check.ask);
         }
-        const std::int32_t line = reader.Asks()[static_cast<std::size_t>(ask)].line;
-        if (line != kNone && known.insert(line).second) {
-            Add(reader, text, Code("unsuitable-value"), ask, CheckMessage(check.expression));
+        const bool isConsequence = std::ranges::any_of(named, [&](std::int32_t ask) {
+            return asks[static_cast<std::size_t>(ask)].line == kNone ||
+                   HasFinding(reader.GetFindings(), PathOf(asks, ask));
+        });
+        if (!named.empty() && !isConsequence) {
+            Add(reader, text, Code("unsuitable-value"), named[0], CheckMessage(check.expression));
         }
     }
 }

@@ -27,9 +27,10 @@ namespace Weight {
 constexpr double kKnown = 0.05;
 constexpr double kDoubtfulChoice = 0.1;
 constexpr double kBlankLine = 0.5;
-constexpr double kDoubledLine = 0.9;
+constexpr double kSameLine = 0.9;
 constexpr double kMisspelt = 0.92;
 constexpr double kCount = 0.95;
+constexpr double kDoubledLine = 0.97;
 constexpr double kOneLine = 1.0;
 constexpr double kSwapped = 1.05;
 constexpr double kGroup = 1.2;
@@ -103,6 +104,7 @@ private:
         queue = Queue();
         seen.clear();
         TrialPtr farthest;
+        TrialPtr settled;
         const auto reach = [](const Trial& trial) {
             return trial.mismatch.line - trial.baseLine - 6.0 * trial.weight + 0.001 * trial.mismatch.line;
         };
@@ -111,9 +113,19 @@ private:
              ++trials) {
             const TrialPtr trial = queue.top();
             queue.pop();
+            if (settled != nullptr && trial->weight > settled->weight) {
+                break;
+            }
             Try(*trial);
-            if (trial->isRead || trial->mismatch.line >= trial->baseLine + kSettledAfter) {
+            if (trial->isRead) {
                 return trial;
+            }
+            if (trial->mismatch.line >= trial->baseLine + kSettledAfter) {
+                // Of those that weigh the same the one that comes farthest.
+                if (settled == nullptr || trial->mismatch.line > settled->mismatch.line) {
+                    settled = trial;
+                }
+                continue;
             }
             const bool isAhead = trial->mismatch.line > start.mismatch.line || trial->mismatch.ask > start.mismatch.ask;
             if (isAhead && (farthest == nullptr || reach(*trial) > reach(*farthest))) {
@@ -125,7 +137,7 @@ private:
                 AddChildren(*trial, trial->weight);
             }
         }
-        return farthest;
+        return settled != nullptr ? settled : farthest;
     }
 
     std::string_view Key(std::int32_t line) const { return KeyOf(text.Line(line)); }
@@ -174,8 +186,9 @@ private:
         const bool isRow = at.probes[0].kind == FieldKind::Row;
         const bool isAskedLater = std::any_of(at.probes.begin() + 1, at.probes.end(),
                                               [&](const ProbedField& probe) { return IsLabel(key, probe.label); });
-        if (!isRow && isAskedLater && IsLabel(Key(at.line + 1), at.label)) {
-            Add(trial, Weight::kSwapped, {{Mend::Kind::SwapLines, kNone, at.line, kNone}}, at.line + 2);
+        if (!isRow && IsLabel(Key(at.line + 1), at.label)) {
+            Add(trial, Weight::kSwapped + (isAskedLater ? 0.0 : 0.1), {{Mend::Kind::SwapLines, kNone, at.line, kNone}},
+                at.line + 2);
         }
         const bool isLike = !isRow && IsLike(key, at.label);
         const double weight = (isLike ? Weight::kMisspelt : Weight::kOtherKey) + (isAskedLater ? 0.8 : 0.0);
@@ -229,6 +242,7 @@ private:
         const Mismatch& at = trial.mismatch;
         const std::int32_t group = GroupLength(at.line);
         const bool isDoubled = at.line > 0 && Key(at.line - 1) == Key(at.line);
+        const bool isSame = isDoubled && Trimmed(text.Line(at.line - 1)) == Trimmed(text.Line(at.line));
         const bool isSurplus = std::ranges::any_of(at.endedLists, [](const OpenList& list) {
             return list.shape.rule == ListRule::Fatal && list.count > list.shape.limit;
         });
@@ -236,7 +250,7 @@ private:
             Add(trial, isSurplus ? Weight::kKnown : weight, {{Mend::Kind::SkipLines, kNone, at.line, count}},
                 at.line + count);
         };
-        skip(isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
+        skip(isSame ? Weight::kSameLine : isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
         if (group > 1) {
             skip(Weight::kGroup, group);
         }

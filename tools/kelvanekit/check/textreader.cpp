@@ -13,7 +13,6 @@ namespace Vorn {
 
 namespace {
 
-constexpr Label kRowLabel = u"[";
 constexpr std::u16string_view kInvalidText = u"Invalid";
 constexpr std::size_t kMostProbes = 64;
 
@@ -57,36 +56,21 @@ bool TextReader::Read(LoadedContent& content) {
         isUnclean = true;
     } catch (const AbnormalEnd&) {
         isUnclean = true;
-        mismatch.isAbnormalEnd = !isProbing;
         if (!isProbing) {
-            mismatch.ask = askCount;
-            mismatch.line = line;
-        }
-    }
-    if (isProbing || mismatch.isAbnormalEnd) {
-        mismatch.lists = lists;
-        const std::size_t ended = std::min(endedCount, kLatest);
-        for (std::size_t i = endedCount - ended; i < endedCount; ++i) {
-            if (endedLists[i % kLatest].endLine == mismatch.line) {
-                mismatch.endedLists.push_back(endedLists[i % kLatest]);
-            }
-        }
-        for (std::size_t i = choiceCount; i > choiceCount - std::min(choiceCount, kLatest); --i) {
-            mismatch.choices.push_back(choices[(i - 1) % kLatest]);
-        }
-        if (choiceCount > kLatest) {
-            mismatch.choices.push_back(firstChoice);
+            mismatch.isAbnormalEnd = true;
+            NoteMismatch({});
         }
     }
     return !isProbing && !isUnclean;
 }
 
 void TextReader::ReadVersion() {
-    std::int32_t version = header.isOld ? kNoVersion : kArchiveVersion;
+    std::int32_t fileVersion = header.isOld ? kNoVersion : kArchiveVersion;
     if (header.hasVersion) {
-        Read(kVersionLabel, version);
+        Read(kVersionLabel, fileVersion);
+        fileVersion = isValueClean ? fileVersion : kArchiveVersion;
     }
-    SetVersion(version);
+    SetVersion(fileVersion);
     if (header.isSwapped) {
         GoTo(2);
         UpdateStops();
@@ -265,10 +249,26 @@ void TextReader::ApplyLineMends() {
     UpdateStops();
 }
 
-void TextReader::Mismatched(Label label, FieldKind kind) {
+void TextReader::NoteMismatch(Label label) {
     mismatch.ask = askCount;
     mismatch.line = line;
     mismatch.label = label;
+    mismatch.lists = lists;
+    for (std::size_t i = endedCount - std::min(endedCount, kLatest); i < endedCount; ++i) {
+        if (endedLists[i % kLatest].endLine == line) {
+            mismatch.endedLists.push_back(endedLists[i % kLatest]);
+        }
+    }
+    for (std::size_t i = choiceCount; i > choiceCount - std::min(choiceCount, kLatest); --i) {
+        mismatch.choices.push_back(choices[(i - 1) % kLatest]);
+    }
+    if (choiceCount > kLatest) {
+        mismatch.choices.push_back(firstChoice);
+    }
+}
+
+void TextReader::Mismatched(Label label, FieldKind kind) {
+    NoteMismatch(label);
     if (mode != Mode::Probing) {
         throw Stop();
     }
@@ -417,6 +417,7 @@ void TextReader::Read(Label label, Vector3& value) {
 
 void TextReader::Read(Label label, char16_t* buffer, int bufferSize) {
     nextCapacity = bufferSize;
+    isValueClean = true;
     bool isRead =
         TakePlain(label, FieldKind::Text, [&](PlainScanner& scanner) { scanner.Blank().Quoted(buffer, bufferSize); });
     if (!isRead) {
@@ -472,6 +473,7 @@ void TextReader::Read(Label label, float& value) {
 
 void TextReader::Read(Label label, std::int32_t& value) {
     std::int32_t read = value;
+    isValueClean = true;
     if (TakePlain(label, FieldKind::Int, [&](PlainScanner& scanner) { scanner.Blank().Int(read); })) [[likely]] {
         value = read;
     } else {
@@ -499,8 +501,8 @@ void TextReader::Read(Label label, SingleLineArchivable& value) {
     nextName = NameKind::None;
 }
 
-void TextReader::Read(Label label, Archivable& value, std::int32_t version) {
-    ReadGroup(label, FieldKind::Record, [&] { value.Read(*this, version); });
+void TextReader::Read(Label label, Archivable& value, std::int32_t _version) {
+    ReadGroup(label, FieldKind::Record, [&] { value.Read(*this, _version); });
 }
 
 void TextReader::Read(Label label, Archivable& value) {
@@ -583,7 +585,7 @@ void TextReader::TakeChoice(StringBuffer buffer, const EnumTable& table, bool is
         const std::size_t nearest = NearestOf(given, {table.rows, static_cast<std::size_t>(table.rowCount)});
         row = nearest == kNoneNear ? kInvalidEnum : static_cast<std::int32_t>(nearest);
     }
-    if (isRead && (!isKnown || isMended)) {
+    if (isRead && isValueClean && (!isKnown || isMended)) {
         NoteChoice(given, table, row);
     }
     StringBuffer out = buffer;

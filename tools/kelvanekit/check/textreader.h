@@ -12,6 +12,9 @@
 
 namespace Vorn {
 
+// Stands for the key of a matrix' row.
+inline constexpr Label kRowLabel = u"[";
+
 // What the first line of a text file tells.
 struct TextHeader {
     // The line of the first field, the version counted as one.
@@ -123,6 +126,7 @@ private:
     void GoTo(std::int32_t newLine);
     void UpdateStops();
     std::string_view LineAhead() const;
+    void NoteMismatch(Label label);
     void Mismatched(Label label, FieldKind kind);
     void Probe(Label label, FieldKind kind);
     template <class Scan>

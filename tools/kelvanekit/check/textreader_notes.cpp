@@ -82,7 +82,7 @@ void TextReader::NoteField(Label label, FieldKind kind, std::int32_t fieldLine) 
         return;
     }
     AskedField field;
-    field.label = label;
+    field.label = kind == FieldKind::Row ? kRowLabel : label;
     field.kind = kind;
     field.table = kind == FieldKind::Text ? nextTable : nullptr;
     field.name = nextName;

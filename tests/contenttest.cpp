@@ -1,6 +1,7 @@
 #include "tests/support/caseupdate.h"
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
+#include "tools/kelvane/contentconverter.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,19 @@ struct Outcome {
     std::optional<std::string> bytes;
     ProcessResult process;
 };
+
+// A conversion in this process, after many others, gives what a process of its own gave.
+void CompareInProcess(const std::string& type, const std::string& source, const std::string& form,
+                      const Outcome& expected) {
+    static ContentConverter converter;
+    const ConversionResult result = converter.Convert(ContentKindNamed(type).value(), "source", source,
+                                                      form == "txt" ? FileArchiveType::Text : FileArchiveType::Binary);
+    EXPECT_EQ(result == ConversionResult::Ended, expected.process.EndedAbnormally());
+    if (!expected.process.EndedAbnormally()) {
+        EXPECT_EQ(result == ConversionResult::Converted, expected.bytes.has_value());
+        EXPECT_EQ(converter.Bytes(), expected.bytes.value_or(""));
+    }
+}
 
 // Runs one case: the edited content, in the forms in which the edits make sense, to both forms. The result is read back
 // from its binary form.
@@ -73,6 +87,7 @@ private:
         outcome.bytes = ReadBytes(Folder() / "destination");
         EXPECT_TRUE(outcome.process.status == 0 || outcome.process.EndedAbnormally())
             << "status " << outcome.process.status << ", signal " << outcome.process.signal;
+        CompareInProcess(file.type, bytes, form, outcome);
         return outcome;
     }
 
@@ -222,9 +237,11 @@ public:
 private:
     std::string Convert(const fs::path& from, const char* form) const {
         const std::string type = ConversionTypeOf(source.parent_path().filename());
+        const std::string sourceBytes = ReadBytes(scratch.Path() / from).value();
         const ProcessResult result = RunConverter({type, from, form, form}, scratch.Path());
         EXPECT_EQ(result.status, 0);
         EXPECT_EQ(result.reports, "");
+        CompareInProcess(type, sourceBytes, form, {ReadBytes(scratch.Path() / form), result});
         return ReadBytes(scratch.Path() / form).value_or("");
     }
 

@@ -1,3 +1,4 @@
+#include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/command.h"
 #include "tools/kelvanekit/commandoptions.h"
 #include "tools/kelvanekit/convertfiles.h"
@@ -39,8 +40,10 @@ CommandRun DeclareConvert(CLI::App& app) {
     AddJobsOption(app, arguments->options.jobs);
     return [arguments](OutputStream&, OutputStream& errors) {
         FindingReport report(arguments->report, errors, errors);
-        return ConvertFiles(
-            arguments->options, [](ContentKind, std::string_view) { return Findings(); }, report, errors);
+        const ContentChecker checker = [](ContentKind kind, std::string_view bytes) {
+            return CheckContent(kind, bytes);
+        };
+        return ConvertFiles(arguments->options, checker, report, errors);
     };
 }
 

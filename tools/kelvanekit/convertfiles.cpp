@@ -1,6 +1,6 @@
 #include "tools/kelvanekit/convertfiles.h"
 
-#include "tools/kelvanekit/contentconverter.h"
+#include "tools/kelvane/contentconverter.h"
 #include "tools/kelvanekit/convertplan.h"
 #include "tools/kelvanekit/findingcodes.h"
 #include "tools/kelvanekit/inputfile.h"

@@ -283,7 +283,7 @@ public:
 
     // Writes a file, or returns what the link of that name leads to.
     std::optional<std::string> Write(const std::string& leaf, std::string_view bytes) {
-        const Descriptor old = OpenAt(descriptor.Number(), leaf, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+        Descriptor old = OpenAt(descriptor.Number(), leaf, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
         FileStatus status = {};
         if (old.IsOpen()) {
             status = StatusOf(old);
@@ -299,7 +299,13 @@ public:
         if (S_ISLNK(status.st_mode) && !LeadsToDevice(leaf)) {
             return TargetOf(leaf);
         }
-        WriteOver(leaf, bytes, old, status);
+        if (S_ISREG(status.st_mode)) {
+            WriteOver(leaf, bytes, old, status);
+        } else {
+            // A pipe must have no reader here that never reads.
+            old = Descriptor();
+            WriteDirectly(leaf, bytes);
+        }
         return std::nullopt;
     }
 
@@ -310,12 +316,14 @@ public:
     }
 
 private:
+    void WriteDirectly(const std::string& leaf, std::string_view bytes) {
+        const Descriptor device = OpenAt(descriptor.Number(), leaf, O_WRONLY | O_NOCTTY);
+        FailUnless(device.IsOpen());
+        WriteAll(device, bytes);
+    }
+
     void WriteOver(const std::string& leaf, std::string_view bytes, const Descriptor& old, const FileStatus& status) {
-        if (!S_ISREG(status.st_mode)) {
-            const Descriptor device = OpenAt(descriptor.Number(), leaf, O_WRONLY | O_NOCTTY);
-            FailUnless(device.IsOpen());
-            WriteAll(device, bytes);
-        } else if (old.IsOpen() && Holds(old, status, bytes)) {
+        if (old.IsOpen() && Holds(old, status, bytes)) {
             FailUnless(!options.touch || futimens(old.Number(), nullptr) == 0);
             FailUnless(!options.sync || Uninterrupted([&] { return fsync(old.Number()); }) == 0);
         } else {

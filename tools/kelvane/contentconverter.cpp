@@ -1,4 +1,4 @@
-#include "tools/kelvanekit/contentconverter.h"
+#include "tools/kelvane/contentconverter.h"
 
 #include "engine/core/core.h"
 #include "engine/core/reporting.h"

@@ -1,6 +1,9 @@
 # Manual pages with the version in their foot, and the target `docs`: pages about the library from its headers' comments.
 file(GLOB manualPages CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} docs/*.[1-9].in)
 set(manuals)
+if(NOT TARGET kelvane-kit)
+  list(FILTER manualPages EXCLUDE REGEX kelvane-kit)
+endif()
 foreach(page IN LISTS manualPages)
   string(REGEX REPLACE "\\.in$" "" manual ${PROJECT_BINARY_DIR}/${page})
   configure_file(${page} ${manual} @ONLY)

@@ -15,6 +15,12 @@ if(NOT WIN32)
   install(FILES ${manuals} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT kelvane)
   install(FILES tools/kelvane/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
     RENAME kelvane COMPONENT kelvane)
+  if(TARGET kelvane-kit)
+    install(FILES tools/kelvanekit/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+      RENAME kelvane-kit COMPONENT kelvane)
+    install(FILES tools/kelvanekit/completion.zsh DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions
+      RENAME _kelvane-kit COMPONENT kelvane)
+  endif()
 endif()
 
 install(TARGETS vorn EXPORT kelvane

@@ -4,7 +4,7 @@ namespace Vorn {
 
 void PlayerDebrisData::Fields(FieldIo& io) {
     // Both lists have the same key for their entries.
-    const auto meshName = io.Strings(u"randomMeshName");
+    const auto meshName = io.Names(u"randomMeshName", NameKind::Mesh);
     io.BoundedList(u"numRandomMeshNamesLarge", randomMeshNamesLarge, meshName);
     io.BoundedList(u"numRandomMeshNamesSmall", randomMeshNamesSmall, meshName);
 }

@@ -19,8 +19,8 @@ void IResearchSubjectDefinition::ResearchWindowLocation::Fields(FieldIo& io) {
 }
 
 void IResearchSubjectDefinition::Fields(FieldIo& io) {
-    io.String(u"NameStringID", nameStringID);
-    io.String(u"DescriptionStringID", descriptionStringID);
+    io.String(u"NameStringID", nameStringID, NameKind::StringId);
+    io.String(u"DescriptionStringID", descriptionStringID, NameKind::StringId);
     io.Record(u"researchWindowLocation", researchWindowLocation);
     io.Enum(u"ResearchField", researchField);
     io.Record(u"Prerequisites", prerequisites);

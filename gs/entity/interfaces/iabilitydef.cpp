@@ -188,8 +188,8 @@ void IAbilityDef::Fields(FieldIo& io) {
     io.Uint(u"maxNumLevels", maxNumLevels);
     SelectionFields(io);
     io.Record(u"researchPrerequisites", researchPrerequisites);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     if (io.Reading()) {
         CheckAction();
         CheckLevels();

@@ -4,7 +4,7 @@ namespace Vorn {
 
 void IAutoRotateDef::Fields(FieldIo& io) {
     io.Degrees(u"angularSpeed", angularSpeed);
-    io.String(u"rotateSoundName", rotateSoundName);
+    io.String(u"rotateSoundName", rotateSoundName, NameKind::Sound);
     io.Enum(u"rotateFacingType", rotateFacingType);
     io.Bool(u"rotateConstantly", rotateConstantly);
 }

@@ -8,7 +8,7 @@ namespace Vorn {
 void IDamageDefinition::Fields(FieldIo& io) {
     io.Uint(u"numRandomDebrisLarge", numRandomDebrisLarge);
     io.Uint(u"numRandomDebrisSmall", numRandomDebrisSmall);
-    io.BoundedList(u"numSpecificDebris", specificDebrisMeshNames, io.Strings(u"specificDebrisMeshName"));
+    io.BoundedList(u"numSpecificDebris", specificDebrisMeshNames, io.Names(u"specificDebrisMeshName", NameKind::Mesh));
     io.Enum(u"armorType", armorType);
     if (io.Reading() && io.Context().meshes != nullptr) {
         ReportMissingMeshes(*io.Context().meshes);

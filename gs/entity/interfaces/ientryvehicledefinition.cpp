@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void IEntryVehicleDefinition::Fields(FieldIo& io) {
-    io.String(u"AtmosphereEntryEffectName", atmosphereEntryEffectName);
+    io.String(u"AtmosphereEntryEffectName", atmosphereEntryEffectName, NameKind::Particle);
     io.Bool(u"HasSurfaceImpactEffect", hasSurfaceImpactEffect);
     io.Value(u"SurfaceImpactEffectName", surfaceImpactEffectName);
     io.Value(u"SurfaceImpactSoundID", surfaceImpactSoundID);

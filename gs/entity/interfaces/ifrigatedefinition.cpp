@@ -9,9 +9,9 @@ void IFrigateDefinition::Fields(FieldIo& io) {
     io.Enum(u"statCountType", statCountType);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);
-    io.String(u"NameStringID", nameStringID);
-    io.String(u"DescriptionStringID", descriptionStringID);
-    io.String(u"counterDescriptionStringID", counterDescriptionStringID);
+    io.String(u"NameStringID", nameStringID, NameKind::StringId);
+    io.String(u"DescriptionStringID", descriptionStringID, NameKind::StringId);
+    io.String(u"counterDescriptionStringID", counterDescriptionStringID, NameKind::StringId);
     io.Record(u"basePrice", basePrice);
     io.Float(u"slotCount", slotCount);
     io.Float(u"BuildTime", buildTime);

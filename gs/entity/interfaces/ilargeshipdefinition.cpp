@@ -16,8 +16,8 @@ void ILargeShipDefinition::Fields(FieldIo& io) {
     io.Record(u"MaxAntiMatter", maxAntiMatter);
     io.Record(u"AntiMatterRestoreRate", antiMatterRestoreRate);
     io.Record(u"CultureProtectRate", cultureProtectRate);
-    io.String(u"NameStringID", nameStringID);
-    io.String(u"DescriptionStringID", descriptionStringID);
+    io.String(u"NameStringID", nameStringID, NameKind::StringId);
+    io.String(u"DescriptionStringID", descriptionStringID, NameKind::StringId);
     io.Value(u"picture", picture);
     io.Record(u"Prerequisites", prerequisites);
 }

@@ -3,10 +3,10 @@
 namespace Vorn {
 
 void IPlanetDefinition::MeshInfo::Fields(FieldIo& io) {
-    io.String(u"typeNameStringID", typeNameStringID);
+    io.String(u"typeNameStringID", typeNameStringID, NameKind::StringId);
     io.Value(u"asteroidTemplate", asteroidTemplate);
     io.Value(u"dustCloudTemplate", dustCloudTemplate);
-    io.String(u"meshName", meshName);
+    io.String(u"meshName", meshName, NameKind::Mesh);
     io.Color(u"cloudColor", cloudColor);
     io.Float(u"nullMeshRadius", nullMeshRadius);
     io.Value(u"nullMeshParticleEffect", nullMeshParticleEffect);

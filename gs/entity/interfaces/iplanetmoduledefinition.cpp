@@ -6,8 +6,8 @@ void IPlanetModuleDefinition::Fields(FieldIo& io) {
     io.Enum(u"planetUpgradeSlotType", planetUpgradeSlotType);
     io.Float(u"planetUpgradeSlotCount", planetUpgradeSlotCount);
     io.Record(u"basePrice", basePrice);
-    io.String(u"NameStringID", nameStringID);
-    io.String(u"DescriptionStringID", descriptionStringID);
+    io.String(u"NameStringID", nameStringID, NameKind::StringId);
+    io.String(u"DescriptionStringID", descriptionStringID, NameKind::StringId);
     io.Enum(u"planetModuleRoleType", planetModuleRoleType);
     io.Enum(u"statCountType", statCountType);
     io.Record(u"Prerequisites", prerequisites);

@@ -23,7 +23,7 @@ void IPlayerDef::Fields(FieldIo& io) {
 }
 
 void IPlayerDef::NameFields(FieldIo& io) {
-    io.String(u"raceNameStringID", raceNameStringID);
+    io.String(u"raceNameStringID", raceNameStringID, NameKind::StringId);
     if (io.Reading()) {
         race = io.Context().players->races.Resolve(raceNameStringID.View());
     }

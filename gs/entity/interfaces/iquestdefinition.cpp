@@ -12,8 +12,8 @@ void IQuestDefinition::MinMax::Fields(FieldIo& io) {
 }
 
 void IQuestDefinition::Fields(FieldIo& io) {
-    io.String(u"titleStringId", titleStringId);
-    io.String(u"infoCardDescStringId", infoCardDescStringId);
+    io.String(u"titleStringId", titleStringId, NameKind::StringId);
+    io.String(u"infoCardDescStringId", infoCardDescStringId, NameKind::StringId);
     io.Enum(u"questType", questType);
     io.Float(u"duration", duration);
     io.Float(u"relationshipDecayRate", relationshipDecayRate);

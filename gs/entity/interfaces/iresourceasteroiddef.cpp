@@ -7,9 +7,9 @@ void IResourceAsteroidDef::Fields(FieldIo& io) {
     io.Block(hud);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);
-    io.BoundedList(u"meshNameCount", meshNames, io.Strings(u"meshName"));
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.BoundedList(u"meshNameCount", meshNames, io.Names(u"meshName", NameKind::Mesh));
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     io.Float(u"nearPlacementDistOffset", nearPlacementDistOffset);
     io.Float(u"farPlacementDistOffset", farPlacementDistOffset);
     if (io.Reading()) {

@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void IShieldDefinition::Fields(FieldIo& io) {
-    io.String(u"ShieldMeshName", shieldMeshName);
+    io.String(u"ShieldMeshName", shieldMeshName, NameKind::Mesh);
     io.Bool(u"renderShield", renderShield);
 }
 

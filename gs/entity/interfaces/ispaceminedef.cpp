@@ -6,7 +6,7 @@ void ISpaceMineDef::Fields(FieldIo& io) {
     io.Float(u"spawnActivationDelay", spawnActivationDelay);
     io.Float(u"targetStartFollowRange", targetStartFollowRange);
     io.Float(u"targetMaxFollowRange", targetMaxFollowRange);
-    io.String(u"nameStringID", nameStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
     io.Record(u"scuttleValue", scuttleValue);
     io.Float(u"baseScuttleTime", baseScuttleTime);
 }

@@ -15,8 +15,8 @@ void ISquadDefinition::Fields(FieldIo& io) {
     io.Value(u"picture", picture);
     io.Value(u"launchIcon", launchIcon);
     io.Value(u"dockIcon", dockIcon);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descriptionStringID", descriptionStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descriptionStringID", descriptionStringID, NameKind::StringId);
     io.Record(u"researchPrerequisites", researchPrerequisites);
 }
 

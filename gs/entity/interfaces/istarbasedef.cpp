@@ -5,7 +5,7 @@ namespace Vorn {
 void IStarBaseDef::Fields(FieldIo& io) {
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Float(u"experiencePointsForDestroying", experiencePointsForDestroying);
-    io.String(u"nameStringID", nameStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
     io.Value(u"picture", picture);
     io.Enum(u"statCountType", statCountType);
     io.Value(u"creationSourceAbility", creationSourceAbility);

@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void IStarDefinition::ColoredSkyboxInfo::Fields(FieldIo& io) {
-    io.String(u"meshName", meshName);
+    io.String(u"meshName", meshName, NameKind::Mesh);
     io.Bool(u"shouldPrefer", shouldPrefer);
 }
 

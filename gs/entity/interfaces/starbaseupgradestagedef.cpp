@@ -5,8 +5,8 @@ namespace Vorn {
 void StarBaseUpgradeStageDef::Fields(FieldIo& io) {
     io.Record(u"price", price);
     io.Float(u"upgradeTime", upgradeTime);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     io.Record(u"researchPrerequisites", researchPrerequisites);
     io.Block(hud);
     io.Block(properties);

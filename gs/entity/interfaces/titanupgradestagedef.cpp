@@ -3,8 +3,8 @@
 namespace Vorn {
 
 void TitanUpgradeStageDef::Fields(FieldIo& io) {
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     io.Record(u"researchPrerequisites", researchPrerequisites);
     io.Uint(u"levelRequirement", levelRequirement);
     io.Block(hud);

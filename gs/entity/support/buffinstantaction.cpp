@@ -15,10 +15,10 @@ constexpr Step kBuffType = [](FieldIo& io, Values& v) { io.Value(u"buffType", v.
 constexpr Step kEffectInfo = [](FieldIo& io, Values& v) { io.Record(u"effectInfo", v.effectInfo); };
 constexpr Step kTargetFilter = [](FieldIo& io, Values& v) { io.Record(u"targetFilter", v.targetFilter); };
 constexpr Step kToggleStateOnNameStringID = [](FieldIo& io, Values& v) {
-    io.String(u"toggleStateOnNameStringID", v.toggleStateOnNameStringID);
+    io.String(u"toggleStateOnNameStringID", v.toggleStateOnNameStringID, NameKind::StringId);
 };
 constexpr Step kToggleStateOnDescStringID = [](FieldIo& io, Values& v) {
-    io.String(u"toggleStateOnDescStringID", v.toggleStateOnDescStringID);
+    io.String(u"toggleStateOnDescStringID", v.toggleStateOnDescStringID, NameKind::StringId);
 };
 constexpr Step kRange = [](FieldIo& io, Values& v) { io.Record(u"range", v.range); };
 constexpr Step kEntryVehicleType = [](FieldIo& io, Values& v) { io.Value(u"entryVehicleType", v.entryVehicleType); };

@@ -3,7 +3,7 @@
 namespace Vorn {
 
 void MeshNameInfo::Fields(FieldIo& io) {
-    io.String(u"meshName", meshName);
+    io.String(u"meshName", meshName, NameKind::Mesh);
     io.Enum(u"criteriaType", criteriaType);
     switch (criteriaType) {
     case CriteriaType::Research:

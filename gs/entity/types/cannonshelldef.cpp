@@ -12,11 +12,11 @@ void CannonShellDef::Fields(FieldIo& io) {
     io.Float(u"planetImpactCameraShakeMaxSize", planetImpactCameraShakeMaxSize);
     io.Float(u"planetImpactCameraShakeStrength", planetImpactCameraShakeStrength);
     io.Float(u"planetImpactCameraShakeDuration", planetImpactCameraShakeDuration);
-    io.String(u"meshName", meshName);
+    io.String(u"meshName", meshName, NameKind::Mesh);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     io.Bool(u"renderMesh", renderMesh);
     io.Block(userInterface);
     io.Block(hud);

@@ -6,7 +6,7 @@ void EntryVehicleDef::Fields(FieldIo& io) {
     io.Block(entryVehicle);
     io.Block(rigidBody);
     io.Block(physics);
-    io.String(u"MeshName", meshName);
+    io.String(u"MeshName", meshName, NameKind::Mesh);
     io.Value(u"ExhaustParticleSystemName", exhaustParticleSystemName);
     io.String(u"ExhaustTrailTextureName", exhaustTrailTextureName);
     io.Float(u"ExhaustTrailWidth", exhaustTrailWidth);

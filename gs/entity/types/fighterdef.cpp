@@ -7,14 +7,14 @@ void FighterDef::Fields(FieldIo& io) {
     io.Block(damage);
     io.Block(hud);
     io.Block(userInterface);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"counterDescriptionStringID", counterDescriptionStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"counterDescriptionStringID", counterDescriptionStringID, NameKind::StringId);
     io.Enum(u"statCountType", statCountType);
     io.Float(u"formationOffsetDistance", formationOffsetDistance);
     io.Block(rigidBody);
     io.Block(physics);
     io.Block(weaponOwner);
-    io.String(u"meshName", meshName);
+    io.String(u"meshName", meshName, NameKind::Mesh);
     // Fighters spell this key and that of the engine sound in lower case, unlike all other ships.
     io.Value(u"exhaustParticleSystemName", exhaustParticleSystemName);
     io.Value(u"ExplosionName", explosionName);

@@ -32,8 +32,8 @@ constexpr Label kIntBonusLabels[] = {u"intBonus:MaxSpaceMines", u"intBonus:MaxSt
 void PlanetBonusDef::Fields(FieldIo& io) {
     io.Uint(u"minUpgradeLevelNeeded", minUpgradeLevelNeeded);
     io.Uint(u"maxUpgradeLevelNeeded", maxUpgradeLevelNeeded);
-    io.String(u"nameStringID", nameStringID);
-    io.String(u"descStringID", descStringID);
+    io.String(u"nameStringID", nameStringID, NameKind::StringId);
+    io.String(u"descStringID", descStringID, NameKind::StringId);
     io.LabelledArray(kFloatBonusLabels, floatBonuses, &FieldIo::Floats);
     io.LabelledArray(kIntBonusLabels, intBonuses, &FieldIo::Uints);
     io.Int(u"dlcId", dlcId);

@@ -9,7 +9,7 @@ void SpaceMineDef::Fields(FieldIo& io) {
     io.Value(u"picture", picture);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Block(userInterface);
-    io.String(u"MeshName", meshName);
+    io.String(u"MeshName", meshName, NameKind::Mesh);
     io.Block(spaceMine);
     io.Value(u"ExplosionName", explosionName);
     io.Block(render);

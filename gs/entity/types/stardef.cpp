@@ -10,7 +10,7 @@ void StarDef::Fields(FieldIo& io) {
     io.Block(orbitBody);
     io.Value(u"mainViewIcon", mainViewIcon);
     io.Value(u"picture", picture);
-    io.String(u"MeshName", meshName);
+    io.String(u"MeshName", meshName, NameKind::Mesh);
     io.Float(u"MaxMeshVisibilityDistanceToCamera", maxMeshVisibilityDistanceToCamera);
     io.Block(render);
 }

@@ -65,7 +65,7 @@ void ParticleEmitter::StartFields(FieldIo& io) {
     io.Color(u"ParticleStartColor", particleStartColor);
     io.Float(u"ParticleWidth", particleWidth);
     io.Float(u"ParticleHeight", particleHeight);
-    io.String(u"MeshName", meshName);
+    io.String(u"MeshName", meshName, NameKind::Mesh);
 }
 
 void ParticleEmitter::PlacementFields(FieldIo& io) {

@@ -195,9 +195,28 @@ TEST_F(KitTest, NamesAreLookedUp) {
     EXPECT_NE(check().find("`FighterSwallowtail` (did you mean `FighterSwallowtai`?) [unresolved-name]"),
               std::string::npos)
         << check();
-    Put("sounds", "  A \r\nB\n");
-    EXPECT_NE(Run({"check", "--sounds", "missing", "c/squad.entity"}).reports.find("missing: No such file"),
-              std::string::npos);
+}
+
+TEST_F(KitTest, MeshesAndIdsOfListsAreLookedUp) {
+    const std::string frigate = ReadBytes(KELVANE_SAMPLES "/entity/frigate_lancer.entity").value();
+    Put("c/frigate.entity", frigate);
+    Put("c/meshes/Shield_Lancer.mesh", "");
+    const auto check = [&](const std::string& option, const std::string& value) {
+        return Run({"check", option, value, "--format", "line", "c/frigate.entity"}).output;
+    };
+    EXPECT_EQ(check("--root", "c").find("`Shield_Lancer`"), std::string::npos);
+    fs::remove(folder.Path() / "c/meshes/Shield_Lancer.mesh");
+    EXPECT_NE(check("--root", "c").find("there is no mesh `Shield_Lancer`"), std::string::npos);
+    Put("names", "IDS_OTHER\n");
+    const std::string missing = check("--strings", "names");
+    const std::size_t begin = missing.find("`IDS_") + 1;
+    ASSERT_NE(begin, 0u) << missing;
+    const std::string id = missing.substr(begin, missing.find('`', begin) - begin);
+    // With white space around it, and a carriage return.
+    Put("names", "IDS_OTHER\r\n \t" + id + " \r\n");
+    EXPECT_LT(check("--strings", "names").size(), missing.size());
+    EXPECT_EQ(check("--strings", "names").find("no string id `" + id), std::string::npos);
+    EXPECT_EQ(Run({"check", "--sounds", "none", "c/frigate.entity"}).status, 2);
 }
 
 TEST_F(KitTest, AReaderThatGoesAwayAndAFullDiskAreNoAbnormalEnds) {

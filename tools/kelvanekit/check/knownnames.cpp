@@ -10,7 +10,9 @@ void KnownNames::Add(NameKind kind, std::u16string name) {
 
 bool KnownNames::Has(NameKind kind, std::u16string_view name) const {
     const Names& known = names[static_cast<std::size_t>(kind)];
-    return known.empty() || known.contains(std::u16string(name));
+    // Folders in front of the name of a file play no part.
+    const std::u16string_view last = name.substr(name.find_last_of(u"/\\") + 1);
+    return known.empty() || known.contains(std::u16string(last));
 }
 
 std::u16string_view KnownNames::NearestTo(NameKind kind, std::u16string_view name) const {

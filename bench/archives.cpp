@@ -3,7 +3,9 @@
 // The loops over numbers come in pairs: `.../Archive` and `.../Library` do the same numbers, and the ratio of their
 // times is what counts. `main` prints the ratios of one run at the end.
 
+#include "engine/archive/filearchivesystem.h"
 #include "engine/core/core.h"
+#include "engine/file/filesystem.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "engine/archive/filearchivesystem.h"
 #include "engine/core/core.h"
+#include "engine/render/mesh/mesh.h"
 
 namespace Vorn {
 

@@ -1,38 +1,39 @@
 #pragma once
 
-#include "engine/archive/fieldcontext.h"
-#include "engine/archive/filearchivesystem.h"
-#include "engine/datastructures/fixedarray.h"
-#include "engine/file/filesystem.h"
-#include "engine/render/mesh/meshsystem.h"
-#include "engine/render/texture/texturesystem.h"
+#include <memory>
+#include <string_view>
 
 namespace Vorn {
 
-// Owner of the engine's systems. Records reach what they need of them through the context of their archive.
+class FileArchiveSystem;
+class FileStore;
+class FileSystem;
+class MeshSystem;
+class TextureSystem;
+struct FieldContext;
+
+// Owner of the engine's systems. Records reach what they need of them through the context of their archive. Include the
+// headers of the systems that are used.
 class Core {
+    struct Systems;
+    std::unique_ptr<Systems> systems;
+
 public:
-    explicit Core(FileStore& files = NativeFiles()) : fileSystem(files) {}
+    // Files are those of the platform.
+    Core();
+    explicit Core(FileStore& files);
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
+    ~Core();
 
-    // A well-known directory by its place in the table; empty until engine set-up fills it, which the converter never
-    // runs.
-    std::u16string_view GetDirectory(int kind) const { return directories[kind].path.View(); }
+    // A well-known directory by its place in the table, which is empty here.
+    std::u16string_view GetDirectory(int kind) const;
 
-    FileSystem fileSystem;
-    TextureSystem textureSystem;
-    FieldContext context{&textureSystem, &meshSystem, nullptr, true};
-    FileArchiveSystem fileArchiveSystem{fileSystem, context};
-    MeshSystem meshSystem{fileSystem, fileArchiveSystem};
-
-private:
-    struct WellKnownDirectory {
-        std::int32_t kind = 0;
-        FixedString<260> path;
-    };
-
-    FixedArray<WellKnownDirectory, 34> directories;
+    FileSystem& fileSystem;
+    TextureSystem& textureSystem;
+    MeshSystem& meshSystem;
+    FileArchiveSystem& fileArchiveSystem;
+    FieldContext& context;
 };
 
 } // namespace Vorn

@@ -1,7 +1,7 @@
 #include "engine/core/debugoutput.h"
 
+#include "engine/core/encodeutf8.h"
 #include "engine/core/reporting.h"
-#include "engine/string/utf8.h"
 
 #ifdef _WIN32
 #include <windows.h>
@@ -113,7 +113,7 @@ bool HasTracer() {
 } // namespace
 
 void WriteDebugOutput(const char16_t* text) {
-    g_ReportBlock.Add(TextIn(text, kReportCapacity));
+    g_ReportBlock.Add(text);
 }
 
 void FlushDebugOutput() {

@@ -1,9 +1,7 @@
 #include "engine/core/reporting.h"
 
 #include "engine/core/debugoutput.h"
-#include "engine/file/file.h"
-#include "engine/string/utf8.h"
-
+#include <algorithm>
 #include <string>
 
 namespace Vorn {
@@ -14,7 +12,13 @@ namespace {
 
 constinit thread_local std::uint64_t g_ReportCost = 0;
 
-using ReportText = FixedString<kReportCapacity>;
+// A report while it is made.
+struct ReportText {
+    std::u16string_view View() const { return units; }
+    StringBuffer Buffer() { return {units, kReportCapacity}; }
+
+    char16_t units[kReportCapacity];
+};
 
 constexpr int kPositionWidth = 50;
 
@@ -53,9 +57,9 @@ std::string ShortenPath(std::string_view path) {
 }
 
 void LogText(const ReportText& text) {
-    WriteDebugOutput(text.Units());
-    if (g_Reporting.logFile != nullptr) {
-        g_Reporting.logFile->Print(u"%s", text);
+    WriteDebugOutput(text.units);
+    if (g_Reporting.log != nullptr) {
+        g_Reporting.log->Add(text.View());
     }
 }
 
@@ -73,9 +77,10 @@ int ShowMessage(const char16_t* title, const char16_t* format, const Arguments&.
     if (g_Reporting.messageHandler == nullptr) {
         return 0;
     }
+    ReportText text;
+    Format(text.Buffer(), format, arguments...);
     ReportText shown;
-    Format(shown.Buffer(), format, arguments...);
-    Append(shown.Buffer(), u"\n");
+    Format(shown.Buffer(), u"%s\n", text);
     return g_Reporting.messageHandler->Show(title, shown.View());
 }
 
@@ -126,7 +131,7 @@ void ReportErrorList(const char16_t* format, std::initializer_list<FormatArgumen
 void ReportErrorAtList(const FormatAt& format, std::initializer_list<FormatArgument> arguments) {
     ReportText text;
     FormatList(text.Buffer(), format.format, arguments);
-    ReportErrorList(text.Units(), {});
+    ReportErrorList(text.units, {});
 }
 
 void LogLineList(const FormatAt& format, std::initializer_list<FormatArgument> arguments) {

@@ -1,11 +1,9 @@
 #pragma once
 
+#include "engine/core/format.h"
 #include "engine/core/report.h"
-#include "engine/string/format.h"
 
 namespace Vorn {
-
-class File;
 
 // Units of a report's text, terminator included; a longer text is cut.
 inline constexpr int kReportCapacity = 4096;
@@ -25,12 +23,19 @@ public:
     virtual int Show(std::u16string_view title, std::u16string_view text) = 0;
 };
 
+// A file that keeps what is reported.
+class ReportLog {
+public:
+    virtual ~ReportLog() = default;
+    virtual void Add(std::u16string_view text) = 0;
+};
+
 // Where the reports of a thread go. The converter runs with none of it set, so that every report ends on the debug
 // output alone.
 struct Reporting {
     ReportHandler* reportHandler = nullptr;
     MessageHandler* messageHandler = nullptr;
-    File* logFile = nullptr;
+    ReportLog* log = nullptr;
     bool suppressAssertDialogs = false;
     bool debugChecksOff = false;
 };

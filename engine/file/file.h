@@ -1,8 +1,9 @@
 #pragma once
 
+#include "engine/core/format.h"
 #include "engine/file/filebuffer.h"
 #include "engine/file/linereader.h"
-#include "engine/string/format.h"
+#include "engine/string/fixedstring.h"
 #include "engine/string/numbertext.h"
 #include "engine/string/utf8.h"
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <bit>
-#include <charconv>
-#include <cmath>
 
 namespace Vorn {
 
@@ -27,10 +25,6 @@ char* PutUint64(char* out, std::uint64_t value) {
         *--cursor = static_cast<char>('0' + rest % 10);
     }
     return out + 9;
-}
-
-char* PutNotFinite(char* out, double value) {
-    return std::copy_n(std::isnan(value) ? "nan" : "inf", 3, out);
 }
 
 } // namespace
@@ -63,16 +57,6 @@ char* PutHex64(char* out, std::uint64_t value) {
 
 char* PutHex(char* out, std::uint32_t value) {
     return PutHex64(out, value);
-}
-
-char* PutFixed(char* out, double value, int places) {
-    if (std::signbit(value)) {
-        *out++ = '-';
-    }
-    if (!std::isfinite(value)) {
-        return PutNotFinite(out, value);
-    }
-    return std::to_chars(out, out + kNumberTextCapacity - 1, std::fabs(value), std::chars_format::fixed, places).ptr;
 }
 
 char* PutFixed6(char* out, float value) {

@@ -1,15 +1,11 @@
 #pragma once
 
+#include "engine/core/stringbuffer.h"
+
 #include <cstdint>
 #include <string_view>
 
 namespace Vorn {
-
-// Where the string library writes: a run of 16-bit code units with its capacity, terminator included.
-struct StringBuffer {
-    char16_t* m_Buffer;
-    int m_BufferSize;
-};
 
 // Exact comparison by unsigned code units: 0, or -1 or 1 as the first differing unit of `s1` is lower or higher.
 // A null text fires its check and counts as empty.

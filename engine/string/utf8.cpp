@@ -28,42 +28,6 @@ LeadByte ClassifyLead(unsigned char lead) {
     return {1, 0, 0};
 }
 
-char* EncodePoint(char* out, std::uint32_t point) {
-    const auto put = [&](std::uint32_t byte) { *out++ = static_cast<char>(byte); };
-    if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0 | point >> 6);
-        put(0x80 | (point & 0x3F));
-    } else if (point < 0x10000) {
-        put(0xE0 | point >> 12);
-        put(0x80 | (point >> 6 & 0x3F));
-        put(0x80 | (point & 0x3F));
-    } else {
-        put(0xF0 | point >> 18);
-        put(0x80 | (point >> 12 & 0x3F));
-        put(0x80 | (point >> 6 & 0x3F));
-        put(0x80 | (point & 0x3F));
-    }
-    return out;
-}
-
-// Takes the code point at the front of `text`; an unpaired surrogate comes back as itself.
-std::uint32_t TakePoint(std::u16string_view& text) {
-    const std::uint32_t unit = text.front();
-    text.remove_prefix(1);
-    if (IsHighSurrogate(unit) && !text.empty() && IsLowSurrogate(text.front())) {
-        const std::uint32_t low = text.front();
-        text.remove_prefix(1);
-        return 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
-    }
-    return unit;
-}
-
-bool IsSurrogate(std::uint32_t point) {
-    return IsHighSurrogate(point) || IsLowSurrogate(point);
-}
-
 } // namespace
 
 DecodedPoint DecodeUtf8(const unsigned char* bytes, std::size_t count) {
@@ -86,14 +50,6 @@ DecodedPoint DecodeUtf8(const unsigned char* bytes, std::size_t count) {
         high = 0xBF;
     }
     return {point, lead.length, true};
-}
-
-char* EncodeUtf8(char* out, std::u16string_view text) {
-    while (!text.empty()) {
-        const std::uint32_t point = TakePoint(text);
-        out = EncodePoint(out, IsSurrogate(point) ? kReplacementUnit : point);
-    }
-    return out;
 }
 
 std::u16string NameFromBytes(std::string_view bytes) {
@@ -122,7 +78,7 @@ std::string BytesFromName(std::u16string_view name) {
     std::string bytes;
     bytes.reserve(name.size());
     while (!name.empty()) {
-        const std::uint32_t point = TakePoint(name);
+        const std::uint32_t point = RemovePoint(name);
         if (point >= kEscapedByteBase && point < kEscapedByteBase + 0x80) {
             bytes += static_cast<char>(point - kEscapedByteBase + 0x80);
             continue;

@@ -1,3 +1,4 @@
+#include "engine/archive/filearchivesystem.h"
 #include "engine/core/core.h"
 #include "engine/core/reporting.h"
 #include "engine/string/utf8.h"

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "engine/archive/filearchivesystem.h"
 #include "engine/core/core.h"
 #include "engine/core/reporting.h"
+#include "engine/file/filesystem.h"
+#include "engine/render/mesh/meshsystem.h"
+#include "engine/render/texture/texturesystem.h"
 #include "tests/support/tempfolder.h"
 
 #include <gtest/gtest.h>

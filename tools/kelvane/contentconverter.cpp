@@ -1,5 +1,7 @@
 #include "tools/kelvane/contentconverter.h"
 
+#include "engine/archive/fieldcontext.h"
+#include "engine/core/abnormalend.h"
 #include "engine/core/core.h"
 #include "engine/core/reporting.h"
 #include "engine/file/path.h"

@@ -1,6 +1,10 @@
 #include "tools/kelvane/conversion.h"
 
+#include "engine/archive/filearchivesystem.h"
+#include "engine/core/abnormalend.h"
 #include "engine/core/core.h"
+#include "engine/render/mesh/meshsystem.h"
+#include "engine/render/texture/texturesystem.h"
 #include "engine/window/brushset.h"
 #include "gs/entity/entitysystem.h"
 #include "gs/render/particle/particlesimulationdefinitionsystem.h"

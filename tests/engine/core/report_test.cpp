@@ -1,7 +1,9 @@
 #include "engine/core/debugoutput.h"
+#include "engine/file/filelog.h"
 #include "engine/file/filesystem.h"
 #include "tests/support/enginetest.h"
 
+#include <optional>
 #include <unistd.h>
 
 namespace Vorn {
@@ -88,7 +90,9 @@ protected:
     SinkTest() {
         g_Reporting = {};
         g_Reporting.messageHandler = this;
-        g_Reporting.logFile = files.Open(NameOf(folder.Path() / "log"), FileAccess::Write, FileTranslation::Text);
+        logFile = files.Open(NameOf(folder.Path() / "log"), FileAccess::Write, FileTranslation::Text);
+        log.emplace(*logFile);
+        g_Reporting.log = &*log;
     }
     ~SinkTest() override { g_Reporting = {}; }
 
@@ -103,13 +107,15 @@ protected:
     }
 
     std::string TakeLog() {
-        files.Close(g_Reporting.logFile);
-        g_Reporting.logFile = nullptr;
+        files.Close(logFile);
+        g_Reporting.log = nullptr;
         return ReadBytes(folder.Path() / "log").value_or("").substr(3);
     }
 
     TempFolder folder;
     FileSystem files;
+    File* logFile = nullptr;
+    std::optional<FileLog> log;
     Reports shown;
     int answer = 0;
 };

@@ -1,8 +1,10 @@
-#include "engine/string/format.h"
+#include "engine/core/format.h"
 
-#include "engine/string/numbertext.h"
+#include "engine/core/realtext.h"
+#include "engine/core/report.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace Vorn {
 
@@ -73,19 +75,29 @@ private:
             PutNarrow(argument.narrow);
             return;
         case Kind::Integer:
-            digitsEnd = conversion == u"%x"   ? PutHex(digits, static_cast<std::uint32_t>(argument.integer))
-                        : conversion == u"%d" ? PutInt(digits, static_cast<std::int32_t>(argument.integer))
-                                              : PutInt64(digits, argument.integer);
+            digitsEnd = PutInteger(digits, conversion, argument.integer);
             break;
         case Kind::Float:
             digitsEnd = conversion == u"%f" ? PutFixed(digits, argument.real, 6) : PutFixed(digits, argument.real, 2);
             break;
         case Kind::Pointer:
             Put(u"0x");
-            digitsEnd = PutHex64(digits, reinterpret_cast<std::uintptr_t>(argument.pointer));
+            digitsEnd = PutDigits(digits, reinterpret_cast<std::uintptr_t>(argument.pointer), 16);
             break;
         }
         PutNarrow({digits, static_cast<std::size_t>(digitsEnd - digits)});
+    }
+
+    template <class Number>
+    static char* PutDigits(char* out, Number number, int base = 10) {
+        return std::to_chars(out, out + kNumberTextCapacity, number, base).ptr;
+    }
+
+    static char* PutInteger(char* out, std::u16string_view conversion, std::int64_t integer) {
+        if (conversion == u"%x") {
+            return PutDigits(out, static_cast<std::uint32_t>(integer), 16);
+        }
+        return conversion == u"%d" ? PutDigits(out, static_cast<std::int32_t>(integer)) : PutDigits(out, integer);
     }
 
     // Left-aligned text, filled with blanks up to `width` units.

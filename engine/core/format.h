@@ -1,8 +1,10 @@
 #pragma once
 
-#include "engine/string/fixedstring.h"
+#include "engine/core/stringbuffer.h"
 
+#include <cstdint>
 #include <initializer_list>
+#include <string_view>
 
 namespace Vorn {
 
@@ -11,8 +13,10 @@ class FormatArgument {
 public:
     FormatArgument(const char16_t* _text) : kind(Kind::Text), text(_text != nullptr ? _text : u"") {}
     FormatArgument(std::u16string_view _text) : kind(Kind::Text), text(_text) {}
-    template <int N>
-    FormatArgument(const FixedString<N>& _text) : kind(Kind::Text), text(_text.View()) {}
+    // A text that keeps its units itself, like FixedString.
+    template <class Text>
+    requires requires(const Text& _text) { std::u16string_view(_text.View()); }
+    FormatArgument(const Text& _text) : kind(Kind::Text), text(_text.View()) {}
     FormatArgument(const char* _text) : kind(Kind::Narrow), narrow(_text != nullptr ? _text : "") {}
     FormatArgument(std::int32_t value) : kind(Kind::Integer), integer(value) {}
     FormatArgument(std::uint32_t value) : kind(Kind::Integer), integer(static_cast<std::int32_t>(value)) {}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -16,33 +17,62 @@ struct EnumTable {
     std::int32_t rowCount = 0;
 };
 
-// The table of an enumeration; each has one specialisation beside its rows.
+// The table of an enumeration, for those whose rows stand in a header; each has one specialisation there.
 template <class Enum>
 inline constexpr EnumTable kEnumTable = {};
 
-// A table whose last row is that of `Last`.
-template <auto Last, std::size_t N>
-constexpr EnumTable MakeTable(const char* typeName, const std::u16string_view (&rows)[N]) {
-    static_assert(static_cast<std::size_t>(Last) + 1 == N, "one row for each value");
-    return {typeName, rows, static_cast<std::int32_t>(N)};
+// A row of an enumeration whose values are named.
+template <class Enum>
+struct EnumRow {
+    Enum value;
+    std::u16string_view text;
+};
+
+// The texts of rows of any kind that have one.
+template <class Row, std::size_t N>
+constexpr std::array<std::u16string_view, N> TextsOf(const Row (&rows)[N]) {
+    std::array<std::u16string_view, N> texts;
+    for (std::size_t i = 0; i < N; ++i) {
+        texts[i] = rows[i].text;
+    }
+    return texts;
 }
 
-// A table of values that are only carried and need no names in the program.
+// The same of an enumeration with named values: does not compile unless each row is that of its value, up to `last`.
+template <auto last, std::size_t N>
+consteval std::array<std::u16string_view, N> TextsInOrder(const EnumRow<decltype(last)> (&rows)[N]) {
+    static_assert(static_cast<std::size_t>(last) + 1 == N, "one row for each value");
+    for (std::size_t i = 0; i < N; ++i) {
+        if (static_cast<std::size_t>(rows[i].value) != i) {
+            throw "a row stands at the place of another value";
+        }
+    }
+    return TextsOf(rows);
+}
+
+// The texts must outlive the table.
 template <std::size_t N>
-constexpr EnumTable MakeTable(const char* typeName, const std::u16string_view (&rows)[N]) {
-    return {typeName, rows, static_cast<std::int32_t>(N)};
+constexpr EnumTable MakeTable(const char* typeName, const std::array<std::u16string_view, N>& texts) {
+    return {typeName, texts.data(), static_cast<std::int32_t>(N)};
+}
+template <std::size_t N>
+constexpr EnumTable MakeTable(const char* typeName, const std::u16string_view (&texts)[N]) {
+    return {typeName, texts, static_cast<std::int32_t>(N)};
 }
 
 // The number of a row, found while compiling, for the few of a long table that the program tests; an unknown text does
 // not compile.
-template <class Enum>
-consteval std::int32_t RowNumber(std::u16string_view text) {
-    const EnumTable& table = kEnumTable<Enum>;
+consteval std::int32_t RowNumber(const EnumTable& table, std::u16string_view text) {
     std::int32_t row = 0;
     while (table.rows[row] != text) {
         ++row;
     }
     return row;
+}
+
+template <class Enum>
+consteval std::int32_t RowNumber(std::u16string_view text) {
+    return RowNumber(kEnumTable<Enum>, text);
 }
 
 // A value that is no row fires the check "false" and has no text (null).

@@ -3,7 +3,7 @@
 namespace Vorn {
 
 class MeshSystem;
-class PlayerSystem;
+class NameList;
 class TextureSystem;
 
 // What records need from outside while they are read and written. It belongs to whoever starts a conversion and reaches
@@ -13,8 +13,9 @@ struct FieldContext {
     TextureSystem* textures = nullptr;
     // Where the meshes of debris are looked for; null where a missing one is not to be reported.
     const MeshSystem* meshes = nullptr;
-    // The names of races and factions. Needed by entity definitions.
-    PlayerSystem* players = nullptr;
+    // The names of races and factions, of which definitions keep the indexes. Needed by entity definitions.
+    NameList* races = nullptr;
+    NameList* factions = nullptr;
     // Whether each sound of a unit is reported as missing, for there is no data of sounds.
     bool reportsSounds = false;
 };

@@ -75,11 +75,15 @@ public:
 
     // A number in memory, its text in every file. A missing or unknown text gives -1, whatever the field held.
     template <class E>
+    void Enum(Label label, E& value, const EnumTable& table) {
+        auto number = static_cast<std::int32_t>(value);
+        EnumNumber(label, number, table);
+        value = static_cast<E>(number);
+    }
+    template <class E>
     void Enum(Label label, E& value) {
         static_assert(kEnumTable<E>.rowCount > 0, "the enumeration has no table");
-        auto number = static_cast<std::int32_t>(value);
-        EnumNumber(label, number, kEnumTable<E>);
-        value = static_cast<E>(number);
+        Enum(label, value, kEnumTable<E>);
     }
     void EnumNumber(Label label, std::int32_t& value, const EnumTable& table);
 

@@ -16,21 +16,6 @@ struct TypeRow {
     FieldStep<Values> steps[kMaxSteps] = {};
 };
 
-// The texts of a table, for the EnumTable of its enumeration.
-template <std::size_t N>
-struct RowTexts {
-    std::u16string_view texts[N];
-};
-
-template <class Row, std::size_t N>
-constexpr RowTexts<N> TextsOf(const Row (&rows)[N]) {
-    RowTexts<N> result{};
-    for (std::size_t i = 0; i < N; ++i) {
-        result.texts[i] = rows[i].text;
-    }
-    return result;
-}
-
 // The row of a type; null for -1.
 template <class Row, std::size_t N, class E>
 const Row* FindRow(const Row (&rows)[N], E type) {

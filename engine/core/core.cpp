@@ -14,7 +14,7 @@ struct Core::Systems {
 
     FileSystem fileSystem;
     TextureSystem textureSystem;
-    FieldContext context{&textureSystem, &meshSystem, nullptr, true};
+    FieldContext context{&textureSystem, &meshSystem, nullptr, nullptr, true};
     FileArchiveSystem fileArchiveSystem{fileSystem, context};
     MeshSystem meshSystem{fileSystem, fileArchiveSystem};
 

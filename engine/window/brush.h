@@ -9,10 +9,14 @@ namespace Vorn {
 // What a brush record holds: margins, five states, both, or only the one state that all share.
 enum class ArchiveContent : std::int32_t { Invalid = -1, Simple, MarginsAndStates, Margins, States };
 
-inline constexpr std::u16string_view kArchiveContentRows[] = {u"Simple", u"MarginsAndStates", u"Margins", u"States"};
+inline constexpr EnumRow<ArchiveContent> kArchiveContentRows[] = {
+    {ArchiveContent::Simple, u"Simple"},
+    {ArchiveContent::MarginsAndStates, u"MarginsAndStates"},
+    {ArchiveContent::Margins, u"Margins"},
+    {ArchiveContent::States, u"States"}};
+inline constexpr auto kArchiveContentTexts = TextsInOrder<ArchiveContent::States>(kArchiveContentRows);
 template <>
-inline constexpr EnumTable kEnumTable<ArchiveContent> = MakeTable<ArchiveContent::States>("ArchiveContent",
-                                                                                          kArchiveContentRows);
+inline constexpr EnumTable kEnumTable<ArchiveContent> = MakeTable("ArchiveContent", kArchiveContentTexts);
 
 // A named picture for the interface: pixels on a texture for each state of a control, with margins in pixels. Writing
 // derives the content from the data, so that a brush that said more than it needs comes out in its shortest form.

@@ -21,7 +21,8 @@ void EntitySystem::TypeField(FieldIo& io, EntityType& type) {
 }
 
 EntitySystem::EntitySystem(FileArchiveSystem& _archives) : archives(_archives), context(archives.GetContext()) {
-    context.players = &playerSystem;
+    context.races = &playerSystem.races;
+    context.factions = &playerSystem.factions;
 }
 
 std::unique_ptr<EntityDef> EntitySystem::LoadEntityDef(std::u16string_view path) {

@@ -37,8 +37,6 @@
 #include "gs/entity/types/triggerdef.h"
 #include "gs/entity/types/weapondef.h"
 
-#include <array>
-
 namespace Vorn {
 
 namespace {
@@ -99,17 +97,11 @@ constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
     {u"MissionCaptureMinorFaction", Make<Mission_CaptureMinorFactionDef>},
 };
 
-constexpr auto kEntityTypeTexts = [] {
-    std::array<std::u16string_view, kEntityTypeCount> texts{};
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        texts[i] = kEntityTypeRows[i].text;
-    }
-    return texts;
-}();
+constexpr auto kEntityTypeTexts = TextsOf(kEntityTypeRows);
 
 } // namespace
 
-const EnumTable kEntityTypeTable = {"EntityType", kEntityTypeTexts.data(), kEntityTypeCount};
+const EnumTable kEntityTypeTable = MakeTable("EntityType", kEntityTypeTexts);
 
 const EntityTypeRow* FindEntityType(EntityType type) {
     const auto number = static_cast<std::int32_t>(type);

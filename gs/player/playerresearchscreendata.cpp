@@ -29,7 +29,7 @@ void PlayerResearchScreenData::FieldInfo::Fields(FieldIo& io) {
 
 void PlayerResearchScreenData::Fields(FieldIo& io) {
     for (int i = 0; i < kShownFieldCount; ++i) {
-        io.Record(kResearchFieldRows[i], fields[i]);
+        io.Record(kResearchFieldTexts[static_cast<std::size_t>(i)], fields[i]);
     }
     io.LabelledArray(kCapitalShipSlotLabels, capitalShipSlotLevelPictures, &FieldIo::Values);
     io.LabelledArray(kShipSlotLabels, shipSlotLevelPictures, &FieldIo::Values);

@@ -1,38 +1,8 @@
 #pragma once
 
-#include "engine/archive/fieldio.h"
-
-#include <vector>
+#include "engine/archive/namelist.h"
 
 namespace Vorn {
-
-// Names that records hold as indexes; it only grows, so that an index stays valid.
-class NameList {
-public:
-    static constexpr std::int32_t kNone = -1;
-
-    // The index of exactly this name, which is appended if it is new; kNone for an empty one.
-    std::int32_t Resolve(std::u16string_view name);
-
-    bool IsIndex(std::int32_t index) const { return index >= 0 && index < names.Size(); }
-
-    // Empty for an index outside the list.
-    std::u16string_view GetText(std::int32_t index) const;
-
-    // A field that is an index in memory and the name in every file. A missing or empty name gives kNone; an index
-    // outside the list is written as an empty name, and checking it is up to the record.
-    void Transfer(FieldIo& io, Label label, std::int32_t& index);
-
-private:
-    using Name = FixedString<256>;
-
-    void MakePlaces();
-    std::int32_t& PlaceOf(std::u16string_view name);
-
-    DynamicVector<Name> names;
-    // Indexes by the hash of their names, as many places as a power of two.
-    std::vector<std::int32_t> places;
-};
 
 // What is known of players while definitions are converted: the names of races and factions that they mention.
 class PlayerSystem {
@@ -41,9 +11,10 @@ public:
     PlayerSystem(const PlayerSystem&) = delete;
     PlayerSystem& operator=(const PlayerSystem&) = delete;
 
-    // Fields as NameList::Transfer has them, with the check that an index that is written is in its list.
-    void TransferRace(FieldIo& io, Label label, std::int32_t& index);
-    void TransferFaction(FieldIo& io, Label label, std::int32_t& index);
+    // Fields as NameList::Transfer has them in the lists of the archive's context, with the check that an index that is
+    // written is in its list.
+    static void TransferRace(FieldIo& io, Label label, std::int32_t& index);
+    static void TransferFaction(FieldIo& io, Label label, std::int32_t& index);
 
     NameList races;
     NameList factions;

@@ -3,14 +3,14 @@
 namespace Vorn {
 
 void FactionRelationsModifier::Fields(FieldIo& io) {
-    io.Context().players->TransferFaction(io, u"factionNameID", faction);
-    io.Context().players->TransferFaction(io, u"otherFactionNameID", otherFaction);
+    PlayerSystem::TransferFaction(io, u"factionNameID", faction);
+    PlayerSystem::TransferFaction(io, u"otherFactionNameID", otherFaction);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
 }
 
 void RaceRelationsModifier::Fields(FieldIo& io) {
-    io.Context().players->TransferRace(io, u"raceNameID", race);
+    PlayerSystem::TransferRace(io, u"raceNameID", race);
     io.Float(u"modifierMin", modifierMin);
     io.Float(u"modifierMax", modifierMax);
     io.SizedList(u"factionRelationsModCount", factionRelations, io.Records(u"factionRelationsModifier"));

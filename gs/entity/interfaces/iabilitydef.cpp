@@ -162,21 +162,13 @@ constexpr auto kAIUseTimeTexts = TextsOf(kAIUseTimeRows);
 constexpr auto kAIUseTargetConditionTexts = TextsOf(kAIUseTargetConditionRows);
 constexpr auto kUseCostTypeTexts = TextsOf(kUseCostTypeRows);
 
-} // namespace
+constexpr EnumTable kLevelSourceTypeTable = MakeTable("LevelSourceType", kLevelSourceTypeTexts);
+constexpr EnumTable kAIUseTimeTable = MakeTable("AIUseTime", kAIUseTimeTexts);
+constexpr EnumTable kAIUseTargetConditionTable = MakeTable("AIUseTargetCondition", kAIUseTargetConditionTexts);
+constexpr EnumTable kUseCostTypeTable = MakeTable("UseCostType", kUseCostTypeTexts);
 
-template <>
-inline constexpr EnumTable kEnumTable<LevelSourceType> = MakeTable("LevelSourceType", kLevelSourceTypeTexts.texts);
-template <>
-inline constexpr EnumTable kEnumTable<AIUseTime> = MakeTable("AIUseTime", kAIUseTimeTexts.texts);
-template <>
-inline constexpr EnumTable kEnumTable<AIUseTargetCondition> = MakeTable("AIUseTargetCondition",
-                                                                        kAIUseTargetConditionTexts.texts);
-template <>
-inline constexpr EnumTable kEnumTable<UseCostType> = MakeTable("UseCostType", kUseCostTypeTexts.texts);
-
-namespace {
-constexpr LevelSourceType kResearchWithBase{RowNumber<LevelSourceType>(u"ResearchWithBase")};
-constexpr UseCostType kPassive{RowNumber<UseCostType>(u"Passive")};
+constexpr LevelSourceType kResearchWithBase{RowNumber(kLevelSourceTypeTable, u"ResearchWithBase")};
+constexpr UseCostType kPassive{RowNumber(kUseCostTypeTable, u"Passive")};
 } // namespace
 
 void IAbilityDef::Fields(FieldIo& io) {
@@ -198,18 +190,18 @@ void IAbilityDef::Fields(FieldIo& io) {
 }
 
 void IAbilityDef::SelectionFields(FieldIo& io) {
-    io.Enum(u"levelSourceType", levelSourceType);
+    io.Enum(u"levelSourceType", levelSourceType, kLevelSourceTypeTable);
     RowFields(io, kLevelSourceTypeRows, levelSourceType, *this);
-    io.Enum(u"aiUseTime", aiUseTime);
+    io.Enum(u"aiUseTime", aiUseTime, kAIUseTimeTable);
     RowFields(io, kAIUseTimeRows, aiUseTime, *this);
-    io.Enum(u"aiUseTargetCondition", aiUseTargetCondition);
+    io.Enum(u"aiUseTargetCondition", aiUseTargetCondition, kAIUseTargetConditionTable);
     RowFields(io, kAIUseTargetConditionRows, aiUseTargetCondition, *this);
     io.Bool(u"isAutoCastAvailable", isAutoCastAvailable);
     io.Bool(u"isAutoCastOnByDefault", isAutoCastOnByDefault);
     io.Bool(u"pickRandomPlanetToExploreForAutoCastTarget", pickRandomPlanetToExploreForAutoCastTarget);
     io.Bool(u"ignoreNonCombatShipsForAutoCastTarget", ignoreNonCombatShipsForAutoCastTarget);
     io.Float(u"onlyAutoCastWhenDamageTakenExceedsPerc", onlyAutoCastWhenDamageTakenExceedsPerc);
-    io.Enum(u"useCostType", useCostType);
+    io.Enum(u"useCostType", useCostType, kUseCostTypeTable);
     CheckAssert(useCostType != UseCostType::Invalid, "false");
     RowFields(io, kUseCostTypeRows, useCostType, *this);
 }

@@ -19,13 +19,13 @@ void IPlayerDef::Fields(FieldIo& io) {
     io.String(u"playerThemeGroupName", playerThemeGroupName);
     io.String(u"playerPictureGroupName", playerPictureGroupName);
     io.SizedList(u"raceRelationsModCount", raceRelations, io.Records(u"raceRelationsModifier"));
-    io.Context().players->TransferFaction(io, u"defaultFactionNameID", defaultFaction);
+    PlayerSystem::TransferFaction(io, u"defaultFactionNameID", defaultFaction);
 }
 
 void IPlayerDef::NameFields(FieldIo& io) {
     io.String(u"raceNameStringID", raceNameStringID, NameKind::StringId);
     if (io.Reading()) {
-        race = io.Context().players->races.Resolve(raceNameStringID.View());
+        race = io.Context().races->Resolve(raceNameStringID.View());
     }
 }
 

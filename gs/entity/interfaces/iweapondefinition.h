@@ -10,11 +10,15 @@ namespace Vorn {
 
 enum class WeaponFireConstaintType : std::int32_t { Invalid = -1, CanAlwaysFire, Research, StarBaseUpgradeLevel };
 
-inline constexpr std::u16string_view kWeaponFireConstaintTypeRows[] = {u"CanAlwaysFire", u"Research",
-                                                                       u"StarBaseUpgradeLevel"};
+inline constexpr EnumRow<WeaponFireConstaintType> kWeaponFireConstaintTypeRows[] = {
+    {WeaponFireConstaintType::CanAlwaysFire, u"CanAlwaysFire"},
+    {WeaponFireConstaintType::Research, u"Research"},
+    {WeaponFireConstaintType::StarBaseUpgradeLevel, u"StarBaseUpgradeLevel"}};
+inline constexpr auto kWeaponFireConstaintTypeTexts =
+    TextsInOrder<WeaponFireConstaintType::StarBaseUpgradeLevel>(kWeaponFireConstaintTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<WeaponFireConstaintType> =
-    MakeTable<WeaponFireConstaintType::StarBaseUpgradeLevel>("WeaponFireConstaintType", kWeaponFireConstaintTypeRows);
+inline constexpr EnumTable kEnumTable<WeaponFireConstaintType> = MakeTable("WeaponFireConstaintType",
+                                                                           kWeaponFireConstaintTypeTexts);
 
 inline constexpr int kWeaponBankCount = kEnumTable<WeaponBank>.rowCount;
 

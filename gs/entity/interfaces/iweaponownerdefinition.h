@@ -6,10 +6,15 @@ namespace Vorn {
 
 enum class FiringAlignmentType : std::int32_t { Invalid = -1, Default, BroadSide, TiltForward };
 
-inline constexpr std::u16string_view kFiringAlignmentTypeRows[] = {u"Default", u"BroadSide", u"TiltForward"};
+inline constexpr EnumRow<FiringAlignmentType> kFiringAlignmentTypeRows[] = {
+    {FiringAlignmentType::Default, u"Default"},
+    {FiringAlignmentType::BroadSide, u"BroadSide"},
+    {FiringAlignmentType::TiltForward, u"TiltForward"}};
+inline constexpr auto kFiringAlignmentTypeTexts =
+    TextsInOrder<FiringAlignmentType::TiltForward>(kFiringAlignmentTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<FiringAlignmentType> =
-    MakeTable<FiringAlignmentType::TiltForward>("FiringAlignmentType", kFiringAlignmentTypeRows);
+inline constexpr EnumTable kEnumTable<FiringAlignmentType> = MakeTable("FiringAlignmentType",
+                                                                       kFiringAlignmentTypeTexts);
 
 // The weapons of an entity and how it turns to fire them. The tilt is in radians here and in degrees in every file.
 struct IWeaponOwnerDefinition : Record {

@@ -39,14 +39,12 @@ constexpr TypeRow<Condition, 2> kConditionRows[] = {
 
 constexpr auto kConditionTexts = TextsOf(kConditionRows);
 
+constexpr EnumTable kInstantActionConditionTypeTable = MakeTable("InstantActionConditionType", kConditionTexts);
+
 } // namespace
 
-template <>
-inline constexpr EnumTable kEnumTable<InstantActionConditionType> = MakeTable("InstantActionConditionType",
-                                                                              kConditionTexts.texts);
-
 void BuffActionCondition::Fields(FieldIo& io) {
-    io.Enum(u"instantActionConditionType", instantActionConditionType);
+    io.Enum(u"instantActionConditionType", instantActionConditionType, kInstantActionConditionTypeTable);
     RowFields(io, kConditionRows, instantActionConditionType, *this);
 }
 

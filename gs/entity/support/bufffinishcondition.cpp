@@ -58,18 +58,13 @@ constexpr TypeRow<Values, 2> kFinishConditionRows[] = {
 
 constexpr auto kFinishConditionTexts = TextsOf(kFinishConditionRows);
 
+constexpr EnumTable kBuffFinishConditionTypeTable = MakeTable("BuffFinishConditionType", kFinishConditionTexts);
+
+constexpr BuffFinishConditionType kAbilityUsed{RowNumber(kBuffFinishConditionTypeTable, u"AbilityUsed")};
 } // namespace
 
-template <>
-inline constexpr EnumTable kEnumTable<BuffFinishConditionType> = MakeTable("BuffFinishConditionType",
-                                                                           kFinishConditionTexts.texts);
-
-namespace {
-constexpr BuffFinishConditionType kAbilityUsed{RowNumber<BuffFinishConditionType>(u"AbilityUsed")};
-}
-
 void BuffFinishCondition::Fields(FieldIo& io) {
-    io.Enum(u"finishConditionType", finishConditionType);
+    io.Enum(u"finishConditionType", finishConditionType, kBuffFinishConditionTypeTable);
     CheckAssert(finishConditionType != BuffFinishConditionType::Invalid, "false");
     if (io.Writing()) {
         // Writing has always taken this one for out of range.

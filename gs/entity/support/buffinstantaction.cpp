@@ -346,13 +346,12 @@ constexpr ActionRow kActionRows[] = {
 
 constexpr auto kActionTexts = TextsOf(kActionRows);
 
+constexpr EnumTable kBuffInstantActionTypeTable = MakeTable("BuffInstantActionType", kActionTexts);
+
 } // namespace
 
-template <>
-inline constexpr EnumTable kEnumTable<BuffInstantActionType> = MakeTable("BuffInstantActionType", kActionTexts.texts);
-
 void BuffInstantAction::Fields(FieldIo& io) {
-    io.Enum(u"buffInstantActionType", buffInstantActionType);
+    io.Enum(u"buffInstantActionType", buffInstantActionType, kBuffInstantActionTypeTable);
     io.Enum(u"instantActionTriggerType", instantActionTriggerType);
     TriggerFields(io);
     CheckAssert(buffInstantActionType != BuffInstantActionType::Invalid, "false");

@@ -22,13 +22,24 @@ enum class InstantActionTriggerType : std::int32_t {
     AlwaysPerform
 };
 
-inline constexpr std::u16string_view kInstantActionTriggerTypeRows[] = {
-    u"OnAbilityUsed",     u"OnColonizeAbilityUsed", u"OnChance",      u"OnDamageTaken",
-    u"OnDelay",           u"OnOwnerDeath",          u"OnCondition",   u"OnBuffFinish",
-    u"OnHyperspaceEnter", u"OnHyperspaceExit",      u"OnWeaponFired", u"AlwaysPerform"};
+inline constexpr EnumRow<InstantActionTriggerType> kInstantActionTriggerTypeRows[] = {
+    {InstantActionTriggerType::OnAbilityUsed, u"OnAbilityUsed"},
+    {InstantActionTriggerType::OnColonizeAbilityUsed, u"OnColonizeAbilityUsed"},
+    {InstantActionTriggerType::OnChance, u"OnChance"},
+    {InstantActionTriggerType::OnDamageTaken, u"OnDamageTaken"},
+    {InstantActionTriggerType::OnDelay, u"OnDelay"},
+    {InstantActionTriggerType::OnOwnerDeath, u"OnOwnerDeath"},
+    {InstantActionTriggerType::OnCondition, u"OnCondition"},
+    {InstantActionTriggerType::OnBuffFinish, u"OnBuffFinish"},
+    {InstantActionTriggerType::OnHyperspaceEnter, u"OnHyperspaceEnter"},
+    {InstantActionTriggerType::OnHyperspaceExit, u"OnHyperspaceExit"},
+    {InstantActionTriggerType::OnWeaponFired, u"OnWeaponFired"},
+    {InstantActionTriggerType::AlwaysPerform, u"AlwaysPerform"}};
+inline constexpr auto kInstantActionTriggerTypeTexts =
+    TextsInOrder<InstantActionTriggerType::AlwaysPerform>(kInstantActionTriggerTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<InstantActionTriggerType> =
-    MakeTable<InstantActionTriggerType::AlwaysPerform>("InstantActionTriggerType", kInstantActionTriggerTypeRows);
+inline constexpr EnumTable kEnumTable<InstantActionTriggerType> = MakeTable("InstantActionTriggerType",
+                                                                            kInstantActionTriggerTypeTexts);
 
 // The numbers are the rows of the table in buffinstantaction.cpp.
 enum class BuffInstantActionType : std::int32_t { Invalid = -1 };

@@ -75,14 +75,12 @@ constexpr TypeRow<Values, 5> kOverTimeActionRows[] = {
 
 constexpr auto kOverTimeActionTexts = TextsOf(kOverTimeActionRows);
 
+constexpr EnumTable kBuffOverTimeActionTypeTable = MakeTable("BuffOverTimeActionType", kOverTimeActionTexts);
+
 } // namespace
 
-template <>
-inline constexpr EnumTable kEnumTable<BuffOverTimeActionType> = MakeTable("BuffOverTimeActionType",
-                                                                          kOverTimeActionTexts.texts);
-
 void BuffOverTimeAction::Fields(FieldIo& io) {
-    io.Enum(u"buffOverTimeActionType", buffOverTimeActionType);
+    io.Enum(u"buffOverTimeActionType", buffOverTimeActionType, kBuffOverTimeActionTypeTable);
     CheckAssert(buffOverTimeActionType != BuffOverTimeActionType::Invalid, "false");
     RowFields(io, kOverTimeActionRows, buffOverTimeActionType, values);
 }

@@ -8,10 +8,13 @@ namespace Vorn {
 
 enum class WeaponEffectOriginType : std::int32_t { Invalid = -1, Targetter, Target };
 
-inline constexpr std::u16string_view kWeaponEffectOriginTypeRows[] = {u"Targetter", u"Target"};
+inline constexpr EnumRow<WeaponEffectOriginType> kWeaponEffectOriginTypeRows[] = {
+    {WeaponEffectOriginType::Targetter, u"Targetter"}, {WeaponEffectOriginType::Target, u"Target"}};
+inline constexpr auto kWeaponEffectOriginTypeTexts =
+    TextsInOrder<WeaponEffectOriginType::Target>(kWeaponEffectOriginTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<WeaponEffectOriginType> =
-    MakeTable<WeaponEffectOriginType::Target>("WeaponEffectOriginType", kWeaponEffectOriginTypeRows);
+inline constexpr EnumTable kEnumTable<WeaponEffectOriginType> = MakeTable("WeaponEffectOriginType",
+                                                                          kWeaponEffectOriginTypeTexts);
 
 enum class ImpactOffsetType : std::int32_t { Invalid = -1 };
 

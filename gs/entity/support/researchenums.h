@@ -280,11 +280,14 @@ enum class ResearchField : std::int32_t {
     ResearchUnlock
 };
 
-inline constexpr std::u16string_view kResearchFieldRows[] = {u"Combat",   u"Defense", u"NonCombat", u"Diplomacy",
-                                                             u"Artifact", u"Fleet",   u"PactBonus", u"ResearchUnlock"};
+inline constexpr EnumRow<ResearchField> kResearchFieldRows[] = {
+    {ResearchField::Combat, u"Combat"},       {ResearchField::Defense, u"Defense"},
+    {ResearchField::NonCombat, u"NonCombat"}, {ResearchField::Diplomacy, u"Diplomacy"},
+    {ResearchField::Artifact, u"Artifact"},   {ResearchField::Fleet, u"Fleet"},
+    {ResearchField::PactBonus, u"PactBonus"}, {ResearchField::ResearchUnlock, u"ResearchUnlock"}};
+inline constexpr auto kResearchFieldTexts = TextsInOrder<ResearchField::ResearchUnlock>(kResearchFieldRows);
 template <>
-inline constexpr EnumTable kEnumTable<ResearchField> = MakeTable<ResearchField::ResearchUnlock>("ResearchField",
-                                                                                                kResearchFieldRows);
+inline constexpr EnumTable kEnumTable<ResearchField> = MakeTable("ResearchField", kResearchFieldTexts);
 
 enum class ResearchPlanetType : std::int32_t { Invalid = -1 };
 

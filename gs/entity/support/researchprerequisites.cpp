@@ -11,7 +11,7 @@ void ResearchPrerequisite::Fields(FieldIo& io) {
 
 void ResearchPrerequisites::Fields(FieldIo& io) {
     io.BoundedList(u"NumResearchPrerequisites", prerequisites, io.Records(u"ResearchPrerequisite"));
-    io.Context().players->factions.Transfer(io, u"RequiredFactionNameID", requiredFaction);
+    io.Context().factions->Transfer(io, u"RequiredFactionNameID", requiredFaction);
     io.Uint(u"RequiredCompletedResearchSubjects", requiredCompletedResearchSubjects);
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "engine/archive/namelist.h"
 #include "engine/archive/record.h"
 #include "gs/entity/support/entitydefname.h"
-#include "gs/player/playersystem.h"
 
 namespace Vorn {
 

@@ -54,10 +54,13 @@ inline constexpr EnumTable kEnumTable<AttackType> = MakeTable("AttackType", kAtt
 
 enum class PlayerRaceType : std::int32_t { Invalid = -1, Tech, Psi, Phase, Other };
 
-inline constexpr std::u16string_view kPlayerRaceTypeRows[] = {u"Tech", u"Psi", u"Phase", u"Other"};
+inline constexpr EnumRow<PlayerRaceType> kPlayerRaceTypeRows[] = {{PlayerRaceType::Tech, u"Tech"},
+                                                                  {PlayerRaceType::Psi, u"Psi"},
+                                                                  {PlayerRaceType::Phase, u"Phase"},
+                                                                  {PlayerRaceType::Other, u"Other"}};
+inline constexpr auto kPlayerRaceTypeTexts = TextsInOrder<PlayerRaceType::Other>(kPlayerRaceTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<PlayerRaceType> = MakeTable<PlayerRaceType::Other>("PlayerRaceType",
-                                                                                         kPlayerRaceTypeRows);
+inline constexpr EnumTable kEnumTable<PlayerRaceType> = MakeTable("PlayerRaceType", kPlayerRaceTypeTexts);
 
 enum class Resource : std::int32_t { Invalid = -1 };
 
@@ -115,21 +118,33 @@ inline constexpr EnumTable kEnumTable<WeaponClassType> = MakeTable("WeaponClassT
 
 enum class BuffEffectAttachType : std::int32_t { Invalid = -1, Above, Aura, Center, Ability };
 
-inline constexpr std::u16string_view kBuffEffectAttachTypeRows[] = {u"Above", u"Aura", u"Center", u"Ability"};
+inline constexpr EnumRow<BuffEffectAttachType> kBuffEffectAttachTypeRows[] = {
+    {BuffEffectAttachType::Above, u"Above"},
+    {BuffEffectAttachType::Aura, u"Aura"},
+    {BuffEffectAttachType::Center, u"Center"},
+    {BuffEffectAttachType::Ability, u"Ability"}};
+inline constexpr auto kBuffEffectAttachTypeTexts =
+    TextsInOrder<BuffEffectAttachType::Ability>(kBuffEffectAttachTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<BuffEffectAttachType> =
-    MakeTable<BuffEffectAttachType::Ability>("BuffEffectAttachType", kBuffEffectAttachTypeRows);
+inline constexpr EnumTable kEnumTable<BuffEffectAttachType> = MakeTable("BuffEffectAttachType",
+                                                                        kBuffEffectAttachTypeTexts);
 
 enum class WeaponType : std::int32_t { Invalid = -1, Beam, Missile, Projectile };
 
-inline constexpr std::u16string_view kWeaponTypeRows[] = {u"Beam", u"Missile", u"Projectile"};
+inline constexpr EnumRow<WeaponType> kWeaponTypeRows[] = {
+    {WeaponType::Beam, u"Beam"}, {WeaponType::Missile, u"Missile"}, {WeaponType::Projectile, u"Projectile"}};
+inline constexpr auto kWeaponTypeTexts = TextsInOrder<WeaponType::Projectile>(kWeaponTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<WeaponType> = MakeTable<WeaponType::Projectile>("WeaponType", kWeaponTypeRows);
+inline constexpr EnumTable kEnumTable<WeaponType> = MakeTable("WeaponType", kWeaponTypeTexts);
 
 enum class CriteriaType : std::int32_t { Invalid = -1, Research, StarBaseUpgradeLevel, None };
 
-inline constexpr std::u16string_view kCriteriaTypeRows[] = {u"Research", u"StarBaseUpgradeLevel", u"None"};
+inline constexpr EnumRow<CriteriaType> kCriteriaTypeRows[] = {
+    {CriteriaType::Research, u"Research"},
+    {CriteriaType::StarBaseUpgradeLevel, u"StarBaseUpgradeLevel"},
+    {CriteriaType::None, u"None"}};
+inline constexpr auto kCriteriaTypeTexts = TextsInOrder<CriteriaType::None>(kCriteriaTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<CriteriaType> = MakeTable<CriteriaType::None>("CriteriaType", kCriteriaTypeRows);
+inline constexpr EnumTable kEnumTable<CriteriaType> = MakeTable("CriteriaType", kCriteriaTypeTexts);
 
 } // namespace Vorn

@@ -6,9 +6,11 @@ namespace Vorn {
 
 enum class SpawnType : std::int32_t { Invalid = -1, CompletelyRandom, RandomFromUp };
 
-inline constexpr std::u16string_view kSpawnTypeRows[] = {u"CompletelyRandom", u"RandomFromUp"};
+inline constexpr EnumRow<SpawnType> kSpawnTypeRows[] = {{SpawnType::CompletelyRandom, u"CompletelyRandom"},
+                                                        {SpawnType::RandomFromUp, u"RandomFromUp"}};
+inline constexpr auto kSpawnTypeTexts = TextsInOrder<SpawnType::RandomFromUp>(kSpawnTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<SpawnType> = MakeTable<SpawnType::RandomFromUp>("SpawnType", kSpawnTypeRows);
+inline constexpr EnumTable kEnumTable<SpawnType> = MakeTable("SpawnType", kSpawnTypeTexts);
 
 // How points for effects are spread around a target. The angle is in radians here and in degrees in every file. Without
 // a type there is nothing more, and the check "false" fires.

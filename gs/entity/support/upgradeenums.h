@@ -19,12 +19,21 @@ enum class PlanetUpgradePathType : std::int32_t {
     Smuggler
 };
 
-inline constexpr std::u16string_view kPlanetUpgradePathTypeRows[] = {
-    u"Population",     u"CivilianModules", u"TacticalModules", u"Home",    u"ArtifactLevel",
-    u"Infrastructure", u"Social",          u"Industry",        u"Smuggler"};
+inline constexpr EnumRow<PlanetUpgradePathType> kPlanetUpgradePathTypeRows[] = {
+    {PlanetUpgradePathType::Population, u"Population"},
+    {PlanetUpgradePathType::CivilianModules, u"CivilianModules"},
+    {PlanetUpgradePathType::TacticalModules, u"TacticalModules"},
+    {PlanetUpgradePathType::Home, u"Home"},
+    {PlanetUpgradePathType::ArtifactLevel, u"ArtifactLevel"},
+    {PlanetUpgradePathType::Infrastructure, u"Infrastructure"},
+    {PlanetUpgradePathType::Social, u"Social"},
+    {PlanetUpgradePathType::Industry, u"Industry"},
+    {PlanetUpgradePathType::Smuggler, u"Smuggler"}};
+inline constexpr auto kPlanetUpgradePathTypeTexts =
+    TextsInOrder<PlanetUpgradePathType::Smuggler>(kPlanetUpgradePathTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<PlanetUpgradePathType> =
-    MakeTable<PlanetUpgradePathType::Smuggler>("PlanetUpgradePathType", kPlanetUpgradePathTypeRows);
+inline constexpr EnumTable kEnumTable<PlanetUpgradePathType> = MakeTable("PlanetUpgradePathType",
+                                                                         kPlanetUpgradePathTypeTexts);
 
 enum class StarBaseUpgradePropertyType : std::int32_t { Invalid = -1 };
 

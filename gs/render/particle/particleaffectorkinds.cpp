@@ -37,7 +37,7 @@ constexpr auto kTexts = TextsOf(kKinds);
 
 } // namespace
 
-const EnumTable ParticleAffector::kTypes = {"ParticleAffector::Type", kTexts.data(), kTexts.size()};
+const EnumTable ParticleAffector::kTypes = MakeTable("ParticleAffector::Type", kTexts);
 
 std::unique_ptr<ParticleAffector> ParticleAffector::Make(ParticleSimulationDefinition& definition, Type type) {
     return MakeOfKind(kKinds, definition, type);

@@ -14,11 +14,15 @@ class ParticleSimulationDefinition;
 // Which frame of a texture animation a new particle begins with.
 enum class TextureAnimationSpawnType : std::int32_t { Invalid = -1, FirstFrame, SequentialFrames, RandomFrames };
 
-inline constexpr std::u16string_view kTextureAnimationSpawnTypeRows[] = {u"FirstFrame", u"SequentialFrames",
-                                                                         u"RandomFrames"};
+inline constexpr EnumRow<TextureAnimationSpawnType> kTextureAnimationSpawnTypeRows[] = {
+    {TextureAnimationSpawnType::FirstFrame, u"FirstFrame"},
+    {TextureAnimationSpawnType::SequentialFrames, u"SequentialFrames"},
+    {TextureAnimationSpawnType::RandomFrames, u"RandomFrames"}};
+inline constexpr auto kTextureAnimationSpawnTypeTexts =
+    TextsInOrder<TextureAnimationSpawnType::RandomFrames>(kTextureAnimationSpawnTypeRows);
 template <>
-inline constexpr EnumTable kEnumTable<TextureAnimationSpawnType> =
-    MakeTable<TextureAnimationSpawnType::RandomFrames>("TextureAnimationSpawnType", kTextureAnimationSpawnTypeRows);
+inline constexpr EnumTable kEnumTable<TextureAnimationSpawnType> = MakeTable("TextureAnimationSpawnType",
+                                                                             kTextureAnimationSpawnTypeTexts);
 
 // The part of an effect that creates particles. What all emitters share stands first in each one's fields; the derived
 // classes add the shape of the source. Values out of order or range are reported, kept and written back.

@@ -21,7 +21,7 @@ constexpr auto kTexts = TextsOf(kKinds);
 
 } // namespace
 
-const EnumTable ParticleEmitter::kTypes = {"ParticleEmitter::Type", kTexts.data(), kTexts.size()};
+const EnumTable ParticleEmitter::kTypes = MakeTable("ParticleEmitter::Type", kTexts);
 
 std::unique_ptr<ParticleEmitter> ParticleEmitter::Make(ParticleSimulationDefinition& definition, Type type) {
     return MakeOfKind(kKinds, definition, type);

@@ -2,7 +2,6 @@
 
 #include "engine/archive/enumtable.h"
 
-#include <array>
 #include <memory>
 
 namespace Vorn {
@@ -28,15 +27,6 @@ std::unique_ptr<Part> MakeOfKind(const ParticleKind<Part> (&kinds)[N], ParticleS
                                  typename Part::Type type) {
     const auto row = static_cast<std::size_t>(type);
     return row < N && kinds[row].make != nullptr ? kinds[row].make(definition, type) : nullptr;
-}
-
-template <class Part, std::size_t N>
-constexpr std::array<std::u16string_view, N> TextsOf(const ParticleKind<Part> (&kinds)[N]) {
-    std::array<std::u16string_view, N> texts;
-    for (std::size_t i = 0; i < N; ++i) {
-        texts[i] = kinds[i].text;
-    }
-    return texts;
 }
 
 } // namespace Vorn

@@ -6,12 +6,13 @@ namespace Vorn {
 namespace {
 
 enum class Stance : std::int32_t { Invalid = -1, Hold, Chase, Flee };
-constexpr std::u16string_view kStanceRows[] = {u"Hold", u"Chase", u"Flee"};
+constexpr EnumRow<Stance> kStanceRows[] = {{Stance::Hold, u"Hold"}, {Stance::Chase, u"Chase"}, {Stance::Flee, u"Flee"}};
+constexpr auto kStanceTexts = TextsInOrder<Stance::Flee>(kStanceRows);
 
 } // namespace
 
 template <>
-inline constexpr EnumTable kEnumTable<Stance> = MakeTable<Stance::Flee>("Stance", kStanceRows);
+inline constexpr EnumTable kEnumTable<Stance> = MakeTable("Stance", kStanceTexts);
 
 namespace {
 

@@ -7,7 +7,8 @@ namespace Vorn {
 LoadedContent::LoadedContent(ContentKind _kind) : kind(_kind) {
     textures.SetNameOnlyTextures(true);
     context.textures = &textures;
-    context.players = &players;
+    context.races = &players.races;
+    context.factions = &players.factions;
 }
 
 void LoadedContent::Read(Archive& archive) {

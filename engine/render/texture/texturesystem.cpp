@@ -8,7 +8,6 @@ FileTexture* TextureSystem::Acquire(std::u16string_view fileName) {
     }
     FileTexture* texture = firstFree;
     firstFree = texture->nextFree;
-    texture->name.Assign(fileName);
     texture->fileName.Assign(fileName);
     ++textureCount;
     return texture;

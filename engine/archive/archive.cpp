@@ -2,7 +2,12 @@
 
 #include "engine/core/report.h"
 
+#include <cfloat>
+
 namespace Vorn {
+
+// Files hold what comes of rounding every single operation to its type.
+static_assert(FLT_EVAL_METHOD == 0, "floating-point evaluation is wider than its types");
 
 void Archive::Read(Label label, std::uint32_t& value, int) {
     Read(label, value);

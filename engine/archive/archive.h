@@ -54,6 +54,9 @@ public:
     // a damaged count must not keep the process busy for hours.
     bool IsExhausted() const { return idleWork > kMaxIdleWork; }
 
+    // The bytes of what is read, or at least those that were read so far; 0 for an archive that is no file.
+    virtual std::uint64_t GetSourceSize() const { return 0; }
+
 protected:
     // An idle read finds its file at its end, or the line that it finds was read before. Counts for itself and with
     // what is reported from here to the next read, see GetReportCost.
@@ -67,6 +70,8 @@ protected:
     }
 
 private:
+    friend class ListRoom;
+
     static constexpr std::uint64_t kMaxIdleWork = 1000000;
 
     void CountIdleReports();
@@ -75,6 +80,7 @@ private:
     bool isIdle = false;
     std::uint64_t idleWork = 0;
     std::uint64_t reportedBefore = 0;
+    std::uint64_t roomsOfLists = 0;
     const FieldContext* context = nullptr;
     FieldObserver* observer = nullptr;
 };

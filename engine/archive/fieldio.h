@@ -4,6 +4,8 @@
 #include "engine/archive/enumtable.h"
 #include "engine/archive/fieldcontext.h"
 #include "engine/archive/fieldobserver.h"
+#include "engine/archive/listroom.h"
+#include "engine/archive/storedsize.h"
 #include "engine/datastructures/dynamicarray.h"
 #include "engine/datastructures/dynamicvector.h"
 #include "engine/datastructures/fixedarray.h"
@@ -162,14 +164,15 @@ public:
         }
     }
 
-    // A growing list whose room is made at once from the count. Room beyond kMaxListBytes ends the process.
+    // A growing list whose room is made at once from the count. Too much room ends the process, see ListRoom.
     template <class T, class Entry>
     void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry, ListRule rule = ListRule::Reserved) {
         if (reading) {
             list.Clear();
             const std::int32_t count = ReadCount({countLabel, rule});
-            if (count > list.Capacity()) {
-                list.Reserve(count);
+            const ListRoom room = MakeRoom<T>(count);
+            if (room.GetLikelyCount() > list.Capacity()) {
+                list.Reserve(room.GetLikelyCount());
             }
             ReadEntries(count, [&](std::int32_t) { entry(list.Append()); });
         } else {
@@ -184,12 +187,13 @@ public:
     }
 
     // An array that is sized at once and keeps its size, however few elements the file holds. A missing or negative
-    // count fires "newSize >= 0" and leaves the array empty. Room beyond kMaxListBytes ends the process.
+    // count fires "newSize >= 0" and leaves the array empty. Too much room ends the process, see ListRoom.
     template <class T, class Entry>
     void SizedList(Label countLabel, DynamicArray<T>& array, Entry entry) {
         if (reading) {
             const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
             CheckAssert(count >= 0, "newSize >= 0");
+            const ListRoom room = MakeRoom<T>(count);
             array.Resize(std::max(count, 0));
             ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
         } else {
@@ -204,6 +208,13 @@ public:
         for (int i = 0; i < N; ++i) {
             (this->*entries)(labels[i])(array[i]);
         }
+    }
+
+    // The room of a list of `count` elements like T that is made at once.
+    template <class T>
+    ListRoom MakeRoom(std::int32_t count) {
+        const bool isMeasured = count > ListRoom::kShort || ListRoom::IsInside(archive);
+        return ListRoom(archive, count, isMeasured ? StoredSize(T(), archive.GetContext()) : 1);
     }
 
     // Reads the count of a list that has rules of its own.

@@ -14,6 +14,8 @@ public:
 
     File* GetFile() const { return file; }
 
+    std::uint64_t GetSourceSize() const override { return file != nullptr ? file->GetSourceSize() : 0; }
+
     // The sum of all that was read, a fingerprint of the content; 0 before the first read, wraps in 32 bits.
     std::uint32_t GetCheckSum() const { return checkSum; }
 

@@ -23,8 +23,8 @@ public:
 
     int Size() const { return size; }
 
-    // Drops the old elements for `newSize` default ones. A negative size fires its check and, like a size beyond
-    // kMaxListBytes, ends the process abnormally.
+    // Drops the old elements for `newSize` default ones. A negative size fires its check and, like one that
+    // the machine has no memory for, ends the process abnormally.
     void Resize(int newSize) {
         CheckAssert(newSize >= 0, "newSize >= 0");
         T* fresh = AllocateElements<T>(newSize, kIsZeroByDefault<T> ? Memory::Zeroed : Memory::Raw);

@@ -88,6 +88,9 @@ private:
     }
 
     void Relocate(long long newMaxSize) {
+        if (static_cast<unsigned long long>(newMaxSize) > kMaxListBytes / sizeof(T)) {
+            EndAbnormally();
+        }
         T* moved = AllocateElements<T>(newMaxSize);
         std::uninitialized_move(begin(), end(), moved);
         std::destroy(begin(), end());

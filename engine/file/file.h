@@ -76,6 +76,9 @@ public:
         return {PeekText(), std::min(count, input.Available())};
     }
 
+    // The bytes of a file that is read; of one without a size, like a pipe, those that it has given so far.
+    std::uint64_t GetSourceSize() const { return std::max(stream->GetSize(), input.BytesGiven()); }
+
     // Reports a line without its line feed.
     void ReportOpenLine() const;
 

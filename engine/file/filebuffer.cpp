@@ -27,6 +27,7 @@ bool ReadBuffer::Fill(std::size_t count) {
         ended = result <= 0;
         filled += result > 0 ? static_cast<std::size_t>(result) : 0;
     }
+    given += filled - kept;
     end = block.get() + filled;
     std::memset(block.get() + filled, 0, kSlack);
     return filled >= count;

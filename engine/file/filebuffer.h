@@ -29,6 +29,9 @@ public:
     // Copies up to `count` bytes out and returns how many there were.
     std::size_t Take(void* bytes, std::size_t count);
 
+    // What was read of the file so far, used or not.
+    std::uint64_t BytesGiven() const { return given; }
+
     // A read of the platform failed; the file counts as ended there.
     bool HasFailed() const { return failed; }
 
@@ -42,6 +45,7 @@ private:
     const unsigned char* cursor = kNothing;
     const unsigned char* end = kNothing;
     std::size_t nextRead = kFirstRead;
+    std::uint64_t given = 0;
     bool ended = true;
     bool failed = false;
 

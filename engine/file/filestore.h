@@ -25,6 +25,9 @@ public:
     // True if there is nothing to close or closing did not fail.
     virtual bool Close() = 0;
 
+    // The bytes that there are to read; 0 where that is not known.
+    virtual std::uint64_t GetSize() const { return 0; }
+
     // Some platforms open a directory for reading, and only its reads fail.
     virtual bool IsDirectory() const { return false; }
 };

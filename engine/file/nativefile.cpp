@@ -47,6 +47,12 @@ bool IsDirectoryDescriptor(int) {
     return false;
 }
 
+std::uint64_t SizeOf(int descriptor) {
+    struct _stat64 status = {};
+    const bool hasSize = _fstat64(descriptor, &status) == 0 && (status.st_mode & _S_IFREG) != 0;
+    return hasSize ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
 bool CloseDescriptor(int descriptor) {
     return _close(descriptor) == 0;
 }
@@ -104,6 +110,12 @@ bool IsDirectoryDescriptor(int descriptor) {
     return fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+std::uint64_t SizeOf(int descriptor) {
+    struct stat status = {};
+    const bool hasSize = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+    return hasSize ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
 bool CloseDescriptor(int descriptor) {
     return close(descriptor) == 0;
 }
@@ -143,6 +155,10 @@ bool NativeFile::Open(std::u16string_view name, FileAccess access) {
     FlushDebugOutput();
     descriptor = OpenDescriptor(name, access);
     return descriptor != kNone;
+}
+
+std::uint64_t NativeFile::GetSize() const {
+    return SizeOf(descriptor);
 }
 
 bool NativeFile::IsDirectory() const {

@@ -21,6 +21,7 @@ public:
     std::ptrdiff_t Read(void* bytes, std::size_t count) override;
     bool Write(const void* bytes, std::size_t count) override;
     bool Close() override;
+    std::uint64_t GetSize() const override;
     bool IsDirectory() const override;
 
     // Moves the place of the next access; past the end is allowed.

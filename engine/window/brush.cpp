@@ -1,7 +1,6 @@
 #include "engine/window/brush.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace Vorn {
 
@@ -30,19 +29,14 @@ void Brush::Margins::Fields(FieldIo& io) {
     io.Uint(u"bottom", bottom);
 }
 
-Brush::StateInfo::StateInfo() {
-    std::fill(textureQuads.begin(), textureQuads.end(), TextureQuad{{{0, 0}, {1, 0}, {1, 1}, {0, 1}}});
-}
-
 Brush::StateInfo::StateInfo(const StateInfo& other)
-    : Record(other), texture(AcquireSame(other.texture)), pixelBox(other.pixelBox), textureQuads(other.textureQuads) {}
+    : Record(other), texture(AcquireSame(other.texture)), pixelBox(other.pixelBox) {}
 
 Brush::StateInfo& Brush::StateInfo::operator=(const StateInfo& other) {
     if (this != &other) {
         ReleaseTexture();
         texture = AcquireSame(other.texture);
         pixelBox = other.pixelBox;
-        textureQuads = other.textureQuads;
     }
     return *this;
 }
@@ -60,9 +54,9 @@ void Brush::StateInfo::Fields(FieldIo& io) {
     io.Rectangle(u"pixelBox", pixelBox);
 }
 
-void Brush::StateInfo::ComputeTextureCoordinates(const Margins& margins) {
-    if (texture == nullptr) {
-        return;
+Brush::TextureQuad Brush::StateInfo::GetTextureQuad(int i, const Margins& margins) const {
+    if (texture == nullptr || i < 0 || i >= kQuadCount) {
+        return {{{0, 0}, {1, 0}, {1, 1}, {0, 1}}};
     }
     // Edges in pixels from the outside to the inside and out again; sums wrap as the box's own do.
     const auto edge = [](std::int32_t side, std::uint32_t inward) {
@@ -80,13 +74,11 @@ void Brush::StateInfo::ComputeTextureCoordinates(const Margins& margins) {
     static constexpr Region kRegions[kQuadCount] = {{0, 0, 1, 1}, {0, 1, 1, 2}, {0, 2, 1, 3}, {2, 0, 3, 1},
                                                     {2, 1, 3, 2}, {2, 2, 3, 3}, {1, 0, 2, 1}, {1, 2, 2, 3},
                                                     {1, 1, 2, 2}, {0, 0, 3, 3}};
-    for (int i = 0; i < kQuadCount; ++i) {
-        const Region& region = kRegions[i];
-        textureQuads[i] = {{{us[region.u0], vs[region.v0]},
-                            {us[region.u1], vs[region.v0]},
-                            {us[region.u1], vs[region.v1]},
-                            {us[region.u0], vs[region.v1]}}};
-    }
+    const Region& region = kRegions[i];
+    return {{{us[region.u0], vs[region.v0]},
+             {us[region.u1], vs[region.v0]},
+             {us[region.u1], vs[region.v1]},
+             {us[region.u0], vs[region.v1]}}};
 }
 
 bool Brush::StateInfo::IsLike(const StateInfo& other) const {
@@ -122,13 +114,8 @@ void Brush::Fields(FieldIo& io) {
     } else {
         io.Block(states[0]);
     }
-    if (io.Reading()) {
-        if (!HoldsStates(content)) {
-            ShareFirstState();
-        }
-        for (StateInfo& state : states) {
-            state.ComputeTextureCoordinates(stretchMargins);
-        }
+    if (io.Reading() && !HoldsStates(content)) {
+        ShareFirstState();
     }
 }
 

@@ -49,21 +49,20 @@ public:
     public:
         static constexpr int kQuadCount = 10;
 
-        StateInfo();
+        StateInfo() = default;
         // A copy acquires a texture of its own under the same file name.
         StateInfo(const StateInfo& other);
         StateInfo& operator=(const StateInfo& other);
 
         void Fields(FieldIo& io) override;
 
-        // Fills the quads from box and margins: top left, left, bottom left, top right, right, bottom right, top,
-        // bottom, centre, whole box. Does nothing without a texture.
-        void ComputeTextureCoordinates(const Margins& stretchMargins);
+        // The quads of box and margins: top left, left, bottom left, top right, right, bottom right, top, bottom,
+        // centre, whole box. Without a texture each is the whole texture.
+        TextureQuad GetTextureQuad(int i, const Margins& stretchMargins) const;
 
         // Same box and same texture, where textures that only have names are the same by name, case included.
         bool IsLike(const StateInfo& other) const;
 
-        const TextureQuad& GetTextureQuad(int i) const { return textureQuads[i]; }
         void ReleaseTexture();
 
     private:
@@ -71,13 +70,13 @@ public:
 
         FileTexture* texture = nullptr;
         struct Rectangle pixelBox = {-1, -1, -1, -1};
-        FixedArray<TextureQuad, kQuadCount> textureQuads;
     };
 
     void Fields(FieldIo& io) override;
 
     const FixedString<128>& GetName() const { return name; }
     StateInfo& GetState(int i) { return states[i]; }
+    TextureQuad GetTextureQuad(int state, int i) const { return states[state].GetTextureQuad(i, stretchMargins); }
     void ReleaseTextures();
 
 private:

@@ -25,7 +25,7 @@ protected:
 };
 
 TEST_F(CheckPlacesTest, AreThoseOfTheClassesThatPromise) {
-    Mesh::Point point;
+    Mesh::ArchivablePoint point;
     const std::string bytes(4 + 12 + 36, '\0');
     Read(std::string(kBinaryHeader) + bytes, [&](FieldIo& io) { point.Fields(io); });
     ExpectPlace("engine/render/mesh/mesh", "m_Orientation.IsLeftHandAndNormalized()");

@@ -28,7 +28,7 @@ using Entry = std::uint64_t;
 
 constexpr int kKeyShift = 32;
 constexpr int kIndexShift = Mesh::Data::kDirectionCount;
-static_assert(kMaxListBytes / sizeof(Mesh::Vertex) >> (kKeyShift - kIndexShift) == 0, "an index fits its bits");
+constexpr std::size_t kMostVertices = std::size_t{1} << (kKeyShift - kIndexShift);
 
 // The directions that share a key.
 struct KeyGroup {
@@ -221,6 +221,10 @@ private:
 void CacheVertexIndices(const DynamicArray<Mesh::Vertex>& vertices, float boundingRadius,
                         FixedArray<Mesh::Data::VertexIndexVector, Mesh::Data::kDirectionCount>& lists) {
     const Vertices all(vertices.begin(), vertices.end());
+    // More would be gigabytes of vertices, and count as memory that there is not.
+    if (all.size() > kMostVertices) {
+        EndAbnormally();
+    }
     const auto thinned = [&](int i) { return ThinnedList(all, boundingRadius, lists[i]); };
     for (Mesh::Data::VertexIndexVector& list : lists) {
         list.Clear();

@@ -58,7 +58,7 @@ Mesh::Point Mesh::Point::Default() {
     return point;
 }
 
-void Mesh::Point::Fields(FieldIo& io) {
+void Mesh::ArchivablePoint::Fields(FieldIo& io) {
     io.String(u"DataString", name);
     io.Vector3(u"Position", position);
     io.Matrix33(u"Orientation", orientation);

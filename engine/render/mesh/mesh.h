@@ -19,7 +19,8 @@ public:
         std::int32_t values[3] = {-1, -1, -1};
     };
 
-    // Plain, since a mesh has many of them; a colour in a file is not kept.
+    // The elements of arrays are plain, so that those that a file does not hold stay untouched memory. A colour of a
+    // vertex in a file is not kept.
     struct Vertex {
         Vector3 position;
         Vector3 normal;
@@ -30,7 +31,7 @@ public:
         float v1 = 0.0f;
     };
 
-    // A vertex for the moment in which it is read or written.
+    // An element for the moment in which it is read or written, here and below.
     struct ArchivableVertex final : Record, Vertex {
         void Fields(FieldIo& io) override;
     };
@@ -43,25 +44,26 @@ public:
         std::uint32_t iMaterial = 0xFFFFFFFF;
     };
 
-    // A triangle for the moment in which it is read or written.
     struct ArchivableTriangle final : Record, Triangle {
         void Fields(FieldIo& io) override;
     };
 
-    // A named place on the model. An orientation that is not left-handed and normalised is reported when read, and
-    // kept.
-    struct Point final : Record {
+    // A named place on the model.
+    struct Point {
         FixedString<256> name;
         Vector3 position;
         Matrix33 orientation;
 
         // A nameless point at the origin that looks along the axes.
         static Point Default();
+    };
 
+    // An orientation that is not left-handed and normalised is reported when read, and kept.
+    struct ArchivablePoint final : Record, Point {
         void Fields(FieldIo& io) override;
     };
 
-    struct Material final : Record {
+    struct Material {
         FixedString<256> diffuseTextureFileName;
         FixedString<256> selfIlluminationTextureFileName;
         FixedString<256> normalTextureFileName;
@@ -74,7 +76,9 @@ public:
         float glossiness = 0.0f;
         // Set by reading a team colour texture whose stem is "TeamLogo"; not stored.
         bool isTeamLogo = false;
+    };
 
+    struct ArchivableMaterial final : Record, Material {
         void Fields(FieldIo& io) override;
     };
 
@@ -155,5 +159,9 @@ private:
 
 template <>
 inline constexpr bool kIsZeroByDefault<Mesh::Vertex> = true;
+template <>
+inline constexpr bool kIsZeroByDefault<Mesh::Point> = true;
+template <>
+inline constexpr bool kIsZeroByDefault<Mesh::Material> = true;
 
 } // namespace Vorn

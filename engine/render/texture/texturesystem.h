@@ -14,7 +14,8 @@ class FileTexture {
 public:
     // The system that handed it out.
     TextureSystem& GetOwner() const { return *owner; }
-    const FixedString<256>& GetName() const { return name; }
+    // As long as no image file is looked for, its file name.
+    const FixedString<256>& GetName() const { return fileName; }
     const FixedString<256>& GetFileName() const { return fileName; }
     std::int32_t GetWidth() const { return 0; }
     std::int32_t GetHeight() const { return 0; }
@@ -22,7 +23,6 @@ public:
 private:
     friend class TextureSystem;
 
-    FixedString<256> name;
     FixedString<256> fileName;
     TextureSystem* owner = nullptr;
     FileTexture* nextFree = nullptr;

@@ -1,3 +1,5 @@
+#include "engine/archive/record.h"
+#include "engine/core/abnormalend.h"
 #include "tests/support/archivetest.h"
 
 #include <numeric>
@@ -139,6 +141,57 @@ TEST_F(ValveTest, OtherReportsDoNotCount) {
         io.Int(u"n", value);
         io.ReadEntries(1, [&](std::int32_t) { value = 3; });
         EXPECT_EQ(value, 3);
+    });
+}
+
+// Stands for the end of the process.
+struct End {};
+
+class CaughtEnd final : public EndGuard {
+public:
+    void BeforeAbnormalEnd() override { throw End(); }
+};
+
+// Five bytes and two texts in a binary file, much more in memory.
+struct SmallRecord : Record {
+    void Fields(FieldIo& io) override {
+        io.Bool(u"flag", flag);
+        io.Uint(u"number", number);
+        io.String(u"text", text);
+        CheckAssert(number != 0, "of a default");
+        io.String(u"text", text);
+    }
+
+    Bool flag;
+    std::uint32_t number = 0;
+    FixedString<256> text;
+};
+
+TEST_F(ListTest, RoomFollowsTheSource) {
+    const CaughtEnd caughtEnd;
+    constexpr std::int32_t kGranted = 64 << 20;
+    const auto readFrom = [&](std::size_t sourceSize, const Fields& fields) {
+        std::string source(kBinaryHeader);
+        source.resize(sourceSize);
+        Read(source, fields);
+    };
+    readFrom(100, [](FieldIo& io) {
+        io.MakeRoom<std::uint32_t>(kGranted / 4);
+        EXPECT_THROW(io.MakeRoom<std::uint32_t>(kGranted / 4 + 1), End);
+    });
+    readFrom(100, [](FieldIo& io) {
+        io.MakeRoom<SmallRecord>(kGranted / 13);
+        io.MakeRoom<SmallRecord>(-1);
+        EXPECT_THROW(io.MakeRoom<SmallRecord>(kGranted / 13 + 1), End);
+    });
+    readFrom(2 << 20, [](FieldIo& io) {
+        EXPECT_EQ(io.MakeRoom<std::uint32_t>(kGranted / 2).GetLikelyCount(), (2 << 20) / 4);
+        EXPECT_THROW(io.MakeRoom<std::uint32_t>(kGranted / 2 + 1), End);
+    });
+    readFrom(100, [](FieldIo& io) {
+        const ListRoom outer = io.MakeRoom<std::uint32_t>(kGranted / 8);
+        io.MakeRoom<std::uint32_t>(kGranted / 16);
+        EXPECT_THROW(io.MakeRoom<std::uint32_t>(kGranted / 16 + 1), End) << "lists inside count together";
     });
 }
 

@@ -24,12 +24,12 @@ constexpr const char* kFrame = "name \"Frame\"\ncontent \"Margins\"\nstretchMarg
 // Without an image the extent is 0, and a division by it is infinite, or not a number at the edge 0.
 TEST_F(BrushTest, TextureQuadsWithoutAnImage) {
     Brush brush = ReadBrush(kFrame);
-    const Brush::TextureQuad& topLeft = brush.GetState(4).GetTextureQuad(0);
+    const Brush::TextureQuad topLeft = brush.GetTextureQuad(4, 0);
     EXPECT_TRUE(std::isinf(topLeft.corners[0].u));
     EXPECT_TRUE(std::isnan(topLeft.corners[0].v));
     EXPECT_TRUE(std::isinf(topLeft.corners[2].v));
     brush.ReleaseTextures();
-    const Brush::TextureQuad untouched = Brush::StateInfo().GetTextureQuad(9);
+    const Brush::TextureQuad untouched = Brush::StateInfo().GetTextureQuad(9, {});
     EXPECT_EQ(untouched.corners[1].u, 1.0f);
     EXPECT_EQ(untouched.corners[3].v, 1.0f);
 }

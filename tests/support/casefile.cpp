@@ -85,8 +85,13 @@ private:
         } else if (verb == "ends" || verb == "nothing") {
             (verb == "ends" ? last.ends : last.writesNothing) = true;
             isGenerated = true;
+        } else if (verb == "each") {
+            last.eachPath = rest;
+            last.eachWords = TakeGiven();
         } else if (verb == "once") {
             last.changesAgain = true;
+        } else if (verb == "missing" && rest == "any") {
+            last.anyMissing = true;
         } else if (verb == "missing" || verb.starts_with("report") || verb.starts_with("check")) {
             last.reports.push_back({verb, std::string(rest), TakeGiven()});
             isGenerated = true;
@@ -125,7 +130,7 @@ Lines FieldsOfText(std::string text) {
 }
 
 std::string ConversionTypeOf(const std::string& name) {
-    const std::string kind = name.substr(0, name.find('-'));
+    const std::string kind = name.substr(0, name.find('_'));
     return kind == "brushes" || kind == "mesh" || kind == "particle" ? kind : "entity";
 }
 

@@ -38,8 +38,14 @@ struct Case {
     bool ends = false;
     // No file is written.
     bool writesNothing = false;
+    // "missing any": keys that are missing are not compared.
+    bool anyMissing = false;
     // "once": what comes out changes again at the next conversion.
     bool changesAgain = false;
+
+    // "each PATH" and words below it: the case is one of each of these texts, read from both forms.
+    std::string eachPath;
+    Lines eachWords;
 
     // Where the case stands in its file, and those of its lines that somebody wrote by hand.
     std::size_t begin = 0;
@@ -50,7 +56,7 @@ struct Case {
 // The lines of a text file behind its header and version.
 Lines FieldsOfText(std::string text);
 
-// The conversion type of a case file or a folder of samples, up to a dash in its name: an engine type by its own name,
+// The conversion type of a case file or a folder of samples, up to an underscore in its name: an engine type by its own name,
 // else an entity.
 std::string ConversionTypeOf(const std::string& name);
 

@@ -108,14 +108,35 @@ std::string SourceLines::MissingReport(std::string_view key, std::size_t lineNum
            "\nLine Number:" + std::to_string(lineNumber) + "\nLine Contents:" + lines[shown] + (ends ? "\n\n" : "\n");
 }
 
+bool IsOfTwoParts(const Edit& edit) {
+    return edit.verb == "bare" || edit.verb == "overfill";
+}
+
+Edit SourcePart(const Edit& edit) {
+    if (edit.verb == "overfill") {
+        std::string_view paths = edit.rest;
+        const std::string count(TakeWord(paths));
+        return {"fill", std::to_string(std::stoul(count) + 1) + " " + std::string(paths), edit.added};
+    }
+    return edit.verb == "bare" ? Edit{"keep", edit.rest, edit.added} : edit;
+}
+
+Edit ResultPart(const Edit& edit) {
+    if (edit.verb == "overfill") {
+        return {"fill", edit.rest, edit.added};
+    }
+    return edit.verb == "bare" ? Edit{"blank-but", edit.rest, edit.added} : edit;
+}
+
 bool HasEdit(const Case& tested, std::string_view verb) {
     return std::any_of(tested.edits.begin(), tested.edits.end(),
                        [&](const SidedEdit& sided) { return sided.side == Side::In && sided.edit.verb == verb; });
 }
 
 bool HasSource(const Case& tested, bool isBinary) {
-    const bool isWhole = std::none_of(tested.edits.begin(), tested.edits.end(),
-                                      [](const SidedEdit& sided) { return sided.side == Side::In; });
+    const bool isWhole = std::none_of(tested.edits.begin(), tested.edits.end(), [](const SidedEdit& sided) {
+        return sided.side == Side::In || IsOfTwoParts(sided.edit);
+    });
     return isWhole || HasEdit(tested, "version") || HasEdit(tested, "binary") == isBinary;
 }
 
@@ -130,7 +151,7 @@ const Lines& BaseOf(const CaseFile& file, const Case& tested) {
 Source::Source(const Case& tested, Lines _lines, bool _isBinary) : lines(std::move(_lines)), isBinary(_isBinary) {
     std::vector<const Edit*> byteEdits;
     for (const SidedEdit& sided : tested.edits) {
-        if (sided.side != Side::Out && !ApplyEdit(sided.edit, lines)) {
+        if (sided.side != Side::Out && !ApplyEdit(SourcePart(sided.edit), lines)) {
             byteEdits.push_back(&sided.edit);
         }
     }

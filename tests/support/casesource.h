@@ -36,6 +36,13 @@ struct SourceLines {
     std::string MissingReport(std::string_view key, std::size_t lineNumber, std::size_t waiting) const;
 };
 
+// An edit of both that is another in the source and in what comes out:
+//   bare KEY...        the source keeps the lines with these keys alone, and all others come out blank
+//   overfill N PATH... texts of N + 1 letters in turn come out with N
+bool IsOfTwoParts(const Edit& edit);
+Edit SourcePart(const Edit& edit);
+Edit ResultPart(const Edit& edit);
+
 // Whether a case has a source in that form. One that somebody damaged exists in one form alone; that of an older
 // version has both.
 bool HasSource(const Case& tested, bool isBinary);

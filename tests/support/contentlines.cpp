@@ -1,6 +1,7 @@
 #include "tests/support/contentlines.h"
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 namespace Vorn {
@@ -52,8 +53,8 @@ void Drop(Lines& lines, std::string_view rest) {
 }
 
 void Rows(Lines& lines, std::string_view rest, const Lines& given) {
-    const std::size_t begin = FindLine(lines, TakeWord(rest));
-    Lines block = Block(lines, begin, EndOfBlock(lines, begin));
+    const Range range = TakeRange(lines, rest);
+    Lines block = Block(lines, range.begin, range.end);
     Lines rows;
     for (std::string_view words : given) {
         while (!words.empty()) {
@@ -61,19 +62,47 @@ void Rows(Lines& lines, std::string_view rest, const Lines& given) {
             rows.insert(rows.end(), block.begin(), block.end());
         }
     }
-    lines.erase(At(lines, begin), At(lines, begin + block.size()));
-    lines.insert(At(lines, begin), rows.begin(), rows.end());
+    lines.erase(At(lines, range.begin), At(lines, range.end));
+    lines.insert(At(lines, range.begin), rows.begin(), rows.end());
 }
 
-void Keep(Lines& lines, std::string_view rest) {
-    std::vector<std::string_view> keys;
-    while (!rest.empty()) {
-        keys.push_back(TakeWord(rest));
-    }
-    const auto isOther = [&](const std::string& line) {
-        return std::find(keys.begin(), keys.end(), KeyOf(line)) == keys.end();
+void Fill(Lines& lines, std::string_view rest, const Lines& given) {
+    const std::string letters = Letters(std::stoul(std::string(TakeWord(rest))));
+    const auto fillAll = [&](std::string_view paths) {
+        while (!paths.empty()) {
+            SetValue(lines.at(FindLine(lines, TakeWord(paths))), letters);
+        }
     };
-    lines.erase(std::remove_if(lines.begin(), lines.end(), isOther), lines.end());
+    fillAll(rest);
+    std::for_each(given.begin(), given.end(), fillAll);
+}
+
+// Whether a line has one of the keys that follow a verb.
+class HasKey {
+public:
+    HasKey(std::string_view rest, const Lines& given) {
+        Add(rest);
+        for (const std::string& words : given) {
+            Add(words);
+        }
+    }
+
+    bool operator()(const std::string& line) const {
+        return std::find(keys.begin(), keys.end(), KeyOf(line)) != keys.end();
+    }
+
+private:
+    void Add(std::string_view words) {
+        while (!words.empty()) {
+            keys.push_back(TakeWord(words));
+        }
+    }
+
+    std::vector<std::string_view> keys;
+};
+
+void Keep(Lines& lines, std::string_view rest, const Lines& given) {
+    lines.erase(std::remove_if(lines.begin(), lines.end(), std::not_fn(HasKey(rest, given))), lines.end());
 }
 
 // Zeros with the signs of a number or of several in brackets.
@@ -90,14 +119,23 @@ std::string Zeros(std::string_view numbers) {
     return numbers.find('.') == std::string_view::npos ? "0" : "0.000000";
 }
 
+void BlankLine(std::string& line) {
+    const std::string_view value = ValueOf(line);
+    if (!value.empty()) {
+        SetValue(line, value.front() == '"' ? "\"\"" : value == "TRUE" || value == "FALSE" ? "FALSE" : Zeros(value));
+    }
+}
+
 void Blank(Lines& lines, std::string_view rest) {
     const Range range = TakeRange(lines, rest);
-    for (std::size_t i = range.begin; i < range.end; ++i) {
-        const std::string_view value = ValueOf(lines[i]);
-        if (!value.empty()) {
-            SetValue(lines[i], value.front() == '"'                  ? "\"\""
-                               : value == "TRUE" || value == "FALSE" ? "FALSE"
-                                                                     : Zeros(value));
+    std::for_each(At(lines, range.begin), At(lines, range.end), BlankLine);
+}
+
+void BlankOthers(Lines& lines, std::string_view rest, const Lines& given) {
+    const HasKey hasKey(rest, given);
+    for (std::string& line : lines) {
+        if (!hasKey(line)) {
+            BlankLine(line);
         }
     }
 }
@@ -215,8 +253,12 @@ bool ApplyEdit(const Edit& edit, Lines& lines) {
         Repeat(lines, rest);
     } else if (edit.verb == "rows") {
         Rows(lines, rest, edit.added);
+    } else if (edit.verb == "fill") {
+        Fill(lines, rest, edit.added);
     } else if (edit.verb == "keep") {
-        Keep(lines, rest);
+        Keep(lines, rest, edit.added);
+    } else if (edit.verb == "blank-but") {
+        BlankOthers(lines, rest, edit.added);
     } else if (edit.verb == "blank") {
         Blank(lines, rest);
     } else {
@@ -224,9 +266,6 @@ bool ApplyEdit(const Edit& edit, Lines& lines) {
         if (edit.verb == "set") {
             std::string& changed = line();
             SetValue(changed, rest);
-        } else if (edit.verb == "fill") {
-            std::string& changed = line();
-            SetValue(changed, Letters(std::stoul(std::string(rest))));
         } else if (edit.verb == "line") {
             std::string& changed = line();
             SetText(changed, rest);

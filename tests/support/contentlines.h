@@ -40,6 +40,7 @@ std::string_view TakeWord(std::string_view& text);
 //   rows PATH KEY            a line with all deeper lines below it stands once for each word given, with that text at
 //   KEY keep KEY...              the lines with these keys alone fill PATH N              a text of N letters in turn
 //   blank PATH [to PATH]     empty texts, FALSE and 0 in place of all values
+//   blank-but KEY...         the same for all lines without these keys
 struct Edit {
     std::string verb;
     std::string rest;

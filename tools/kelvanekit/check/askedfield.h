@@ -44,6 +44,8 @@ struct AskedField {
     std::int32_t line = kNone;
     // The ask of the record that it belongs to.
     std::int32_t parent = kNone;
+    // How many records it stands in.
+    std::int32_t depth = 0;
     // The ask of the count of the list that it is an entry of, or the first field of several of an entry, and the
     // entry's number.
     std::int32_t list = kNone;

@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kFarthest = 4000;
 
 struct WrittenLine {
+    std::int32_t depth;
     std::string_view key;
     std::string_view value;
 };
@@ -26,9 +27,10 @@ std::vector<WrittenLine> LinesOf(std::string_view written) {
     std::vector<WrittenLine> lines;
     while (!written.empty()) {
         const std::size_t length = std::min(written.find('\n'), written.size());
+        const auto depth = static_cast<std::int32_t>(std::min(written.find_first_not_of('\t'), length));
         const std::string_view line = Trimmed(written.substr(0, length));
         const std::string_view key = line.starts_with('[') ? line.substr(0, 1) : KeyOf(line);
-        lines.push_back({key, line.starts_with('[') ? line : Trimmed(line.substr(key.size()))});
+        lines.push_back({depth, key, line.starts_with('[') ? line : Trimmed(line.substr(key.size()))});
         written.remove_prefix(std::min(length + 1, written.size()));
     }
     return lines;
@@ -54,8 +56,14 @@ public:
         while (ask < asks.size() && line < lines.size()) {
             if (IsPair(ask, line)) {
                 Compare(asks[ask], lines[line]);
+                const std::int32_t depth = asks[ask].depth;
                 ++ask;
                 ++line;
+                // A group that is missing is written with its defaults.
+                while ((ask == asks.size() || asks[ask].depth <= depth) && line < lines.size() &&
+                       lines[line].depth > depth) {
+                    ++line;
+                }
             } else {
                 Resynchronise();
             }
@@ -70,7 +78,8 @@ public:
 private:
     bool IsPair(std::size_t i, std::size_t k) const {
         const Label label = asks[i].label;
-        return lines[k].key.size() == label.size() && Ascii::EqualsEach(lines[k].key.data(), label);
+        return lines[k].depth == asks[i].depth && lines[k].key.size() == label.size() &&
+               Ascii::EqualsEach(lines[k].key.data(), label);
     }
 
     // Passes over as few as possible on either side.

@@ -85,6 +85,9 @@ bool HasFinding(const Findings& findings, const std::string& path) {
 
 void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list) {
     const AskedFields& asks = reader.Asks();
+    if (HasFinding(reader.GetFindings(), PathOf(asks, list))) {
+        return;
+    }
     std::set<std::int32_t> rows;
     for (const std::int32_t entry : EntriesOf(asks, list)) {
         const std::int32_t ask = RowAskOf(asks, entry);
@@ -115,6 +118,9 @@ void NoteDuplicateNames(const SourceText& text, TextReader& reader, const BrushS
     const AskedFields& asks = reader.Asks();
     const std::vector<std::int32_t> lists = OuterLists(asks);
     const std::vector<std::int32_t> entries = lists.empty() ? lists : EntriesOf(asks, lists[0]);
+    if (lists.empty() || HasFinding(reader.GetFindings(), PathOf(asks, lists[0]))) {
+        return;
+    }
     std::set<std::u16string_view> known;
     std::size_t i = 0;
     for (const Brush& brush : set.GetBrushes()) {
@@ -247,6 +253,9 @@ void NoteRelations(const SourceText& text, TextReader& reader, const LoadedConte
 void NoteFailedChecks(const SourceText& text, TextReader& reader) {
     const AskedFields& asks = reader.Asks();
     for (const FailedCheck& check : reader.FailedChecks()) {
+        if (check.ask != kNone && asks[static_cast<std::size_t>(check.ask)].line == kNone) {
+            continue;
+        }
         std::vector<std::int32_t> named = AsksOf(asks, check);
         if (named.empty() && check.ask != kNone) {
             named.push_back(check.ask);

@@ -26,7 +26,7 @@ std::string_view WithoutPrefix(std::string_view name) {
 
 // A sentence of a report has no operators.
 bool IsSentence(std::string_view expression) {
-    return expression.find_first_of("<>=!&|") == std::string_view::npos && expression.find(' ') != std::string::npos;
+    return expression.find_first_of("<>=!&|,") == std::string_view::npos && expression.find(' ') != std::string::npos;
 }
 
 } // namespace

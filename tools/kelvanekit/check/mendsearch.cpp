@@ -15,7 +15,7 @@ namespace {
 
 // Lines that have to fit behind a mend before it is settled.
 constexpr std::int32_t kSettledAfter = 12;
-constexpr int kMostTrialsPerMistake = 600;
+constexpr int kMostTrialsPerMistake = 400;
 // Lines that all trials together may pass.
 constexpr std::int64_t kMostTriedLines = 30000000;
 constexpr std::int32_t kFarthestLine = 48;
@@ -72,6 +72,29 @@ bool IsLike(std::string_view key, Label label) {
            (units.size() > label.size() && units.starts_with(label) && label.size() > 2);
 }
 
+// Whether a value looks like one of the kind.
+bool FitsKind(std::string_view value, FieldKind kind) {
+    value = Trimmed(value);
+    const char first = value.empty() ? ' ' : value[0];
+    switch (kind) {
+    case FieldKind::Text:
+        return first == '"';
+    case FieldKind::Bool:
+        return first == 'T' || first == 'F';
+    case FieldKind::Record:
+    case FieldKind::Matrix33:
+    case FieldKind::Matrix44:
+        return value.empty();
+    case FieldKind::Color:
+    case FieldKind::Int:
+    case FieldKind::Uint:
+    case FieldKind::Float:
+        return first != '"' && first != '[' && first != 'T' && first != 'F' && first != ' ';
+    default:
+        return first == '[';
+    }
+}
+
 class MendSearch {
 public:
     MendSearch(ContentKind _kind, const SourceText& _text, const TextHeader& _header)
@@ -120,7 +143,8 @@ private:
             if (trial->isRead) {
                 return trial;
             }
-            if (trial->mismatch.line >= trial->baseLine + kSettledAfter) {
+            const std::int32_t base = std::max(trial->baseLine, start.mismatch.line);
+            if (trial->mismatch.line >= base + kSettledAfter && !EndsInOpenList(trial->mismatch)) {
                 // Of those that weigh the same the one that comes farthest.
                 if (settled == nullptr || trial->mismatch.line > settled->mismatch.line) {
                     settled = trial;
@@ -138,6 +162,14 @@ private:
             }
         }
         return settled != nullptr ? settled : farthest;
+    }
+
+    // Entries that a count was raised for prove nothing by themselves.
+    static bool EndsInOpenList(const Mismatch& at) {
+        const auto isOpen = [](const OpenList& list) { return list.isOpen; };
+        return std::ranges::any_of(at.endedLists, isOpen) || std::ranges::any_of(at.lists, [&](const OpenList& list) {
+                   return list.isOpen && list.entryAsk == at.ask;
+               });
     }
 
     std::string_view Key(std::int32_t line) const { return KeyOf(text.Line(line)); }
@@ -186,12 +218,17 @@ private:
         const bool isRow = at.probes[0].kind == FieldKind::Row;
         const bool isAskedLater = std::any_of(at.probes.begin() + 1, at.probes.end(),
                                               [&](const ProbedField& probe) { return IsLabel(key, probe.label); });
-        if (!isRow && IsLabel(Key(at.line + 1), at.label)) {
+        const std::string_view next = Key(at.line + 1);
+        if (isRow ? isAskedLater && next.starts_with('[') : IsLabel(next, at.label)) {
             Add(trial, Weight::kSwapped + (isAskedLater ? 0.0 : 0.1), {{Mend::Kind::SwapLines, kNone, at.line, kNone}},
                 at.line + 2);
         }
         const bool isLike = !isRow && IsLike(key, at.label);
-        const double weight = (isLike ? Weight::kMisspelt : Weight::kOtherKey) + (isAskedLater ? 0.8 : 0.0);
+        const bool isFit =
+            FitsKind(Trimmed(text.Line(at.line)).substr(std::min(key.size(), Trimmed(text.Line(at.line)).size())),
+                     at.probes[0].kind);
+        const double weight =
+            (isLike ? Weight::kMisspelt : Weight::kOtherKey) + (isAskedLater ? 0.8 : 0.0) + (isFit ? 0.0 : 0.4);
         Add(trial, weight, {{Mend::Kind::AcceptLine, at.ask, kNone, kNone}}, at.line + 1);
     }
 
@@ -256,7 +293,7 @@ private:
         }
         if (at.label.empty()) {
             const std::int32_t rest = text.LineCount() - at.line;
-            skip(rest == 1 ? Weight::kOneLine : Weight::kRest, rest);
+            skip(rest == 1 ? Weight::kOneLine : std::min(Weight::kRest + 0.25 * (rest - 2), 4.0), rest);
             return;
         }
         for (std::int32_t count = 2; count < kFarthestLine; ++count) {
@@ -315,11 +352,13 @@ private:
         }
     }
 
-    static Trial Without(const Trial& trial, std::int32_t countAsk) {
+    // The trial without what it says of the value of a field.
+    static Trial Without(const Trial& trial, std::int32_t ask) {
+        using enum Mend::Kind;
         Trial result;
         result.mends = trial.mends;
         std::erase_if(result.mends, [&](const Mend& mend) {
-            return mend.ask == countAsk && (mend.kind == Mend::Kind::Count || mend.kind == Mend::Kind::OpenCount);
+            return mend.ask == ask && (mend.kind == Count || mend.kind == OpenCount || mend.kind == Choice);
         });
         return result;
     }
@@ -330,17 +369,22 @@ private:
         for (std::size_t i = 0; i < at.choices.size(); ++i) {
             const ReadChoice& choice = at.choices[i];
             const bool isFirst = i + 1 == at.choices.size() && choice.table != nullptr && choice.ask <= 2;
-            if (HasMendBehind(trial, choice.ask) || HasMendAt(trial, choice.ask, {Mend::Kind::Choice}) ||
+            // The type of a content may be chosen again: what is in front of the place has the same keys.
+            const bool isChosenAgain = isFirst && HasMendAt(trial, choice.ask, {Mend::Kind::Choice});
+            if ((HasMendBehind(trial, choice.ask) && !isFirst) ||
+                (HasMendAt(trial, choice.ask, {Mend::Kind::Choice}) && !isFirst) ||
+                (isChosenAgain && parentWeight > 0.0) ||
                 (!choice.isDoubtful && !isFirst && (i >= kRecentChoices || parentWeight > 0.0))) {
                 continue;
             }
-            const double weight = choice.isDoubtful ? Weight::kDoubtfulChoice
-                                  : isFirst         ? Weight::kFirstChoice
-                                                    : Weight::kChoice;
+            const double weight = choice.isDoubtful || isChosenAgain ? Weight::kDoubtfulChoice
+                                  : isFirst                          ? Weight::kFirstChoice
+                                                                     : Weight::kChoice;
             const std::int32_t count = choice.table == nullptr ? 2 : choice.table->rowCount;
             for (std::int32_t value = 0; value < count; ++value) {
                 if (value != choice.value) {
-                    Add(trial, weight, {{Mend::Kind::Choice, choice.ask, kNone, value}}, at.line);
+                    Add(isChosenAgain ? Without(trial, choice.ask) : trial, weight,
+                        {{Mend::Kind::Choice, choice.ask, kNone, value}}, at.line);
                 }
             }
         }
@@ -353,7 +397,9 @@ private:
             return;
         }
         Add(trial, Weight::kOneLine, {{Mend::Kind::Missing, at.ask, kNone, kNone}}, at.line);
-        Add(trial, Weight::kRest, {{Mend::Kind::MissingRest, at.ask, kNone, kNone}}, at.line);
+        const auto missing = static_cast<double>(at.probes.size());
+        Add(trial, std::min(Weight::kRest + 0.1 * (missing - 1.0), 3.0),
+            {{Mend::Kind::MissingRest, at.ask, kNone, kNone}}, at.line);
     }
 
     const ContentKind kind;

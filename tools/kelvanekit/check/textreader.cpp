@@ -448,7 +448,9 @@ void TextReader::Read(Label label, Bool& value) {
         const bool isRead = ReadSlowly(label, FieldKind::Bool, [&](ValueScan& scanner) { scanner.Bool(value); });
         isValueClean = isValueClean && isRead;
         if (fieldMend != nullptr && fieldMend->kind == Mend::Kind::Choice) {
-            NoteChoice(value ? u"TRUE" : u"FALSE", {}, kNone);
+            if (isValueClean) {
+                NoteChoice(value ? u"TRUE" : u"FALSE", {}, kNone);
+            }
             value = fieldMend->value != 0;
         }
         AddChoice(nullptr, value ? 1 : 0, !isValueClean);
@@ -491,6 +493,12 @@ void TextReader::Read(Label label, std::uint32_t& value) {
     }
     if (std::exchange(nextIsCount, false)) {
         number = CountOf(number, isRead);
+    } else if (!isRead || !isValueClean) {
+        // Some numbers decide by being 0 or not.
+        if (fieldMend != nullptr && fieldMend->kind == Mend::Kind::Choice) {
+            number = fieldMend->value;
+        }
+        AddChoice(nullptr, number > 0 ? 1 : 0, true);
     }
     value = static_cast<std::uint32_t>(number);
 }
@@ -521,8 +529,9 @@ std::int32_t TextReader::CountOf(std::int32_t given, bool isRead) {
     list.line = takenLine;
     list.shape = nextList;
     list.depth = depth;
-    list.isDoubtful = !isRead || !isValueClean || given < 0;
-    list.count = list.isDoubtful ? 0 : given;
+    const bool isOdd = nextList.rule == ListRule::Exact && given != nextList.limit;
+    list.isDoubtful = !isRead || !isValueClean || given < 0 || isOdd;
+    list.count = list.isDoubtful && !isOdd ? 0 : given;
     std::int32_t count = list.count;
     const Mend::Kind mendKind = fieldMend != nullptr ? fieldMend->kind : Mend::Kind::Missing;
     const auto bytesLeft = static_cast<std::int64_t>(text.End() - cursor);

@@ -92,6 +92,7 @@ void TextReader::NoteField(Label label, FieldKind kind, std::int32_t fieldLine) 
     field.capacity = nextIsCount ? nextList.limit : nextCapacity;
     field.line = fieldLine;
     field.parent = ParentAsk();
+    field.depth = depth;
     if (kind == FieldKind::Row) {
         field.entry = asks.back().kind == FieldKind::Row ? asks.back().entry + 1 : 0;
     } else if (!lists.empty() && lists.back().depth == depth) {
@@ -263,6 +264,7 @@ void TextReader::NoteCount(const OpenList& list) {
         return;
     }
     const std::int32_t limit = list.shape.limit;
+    const bool isValueCounted = !list.isDoubtful || list.count != 0;
     takenLine = list.line;
     const auto add = [&](const FindingCode* code, std::string message) -> Finding& {
         return Add(code, list.line, ValueRange(), PathOf(asks, list.ask), std::move(message));
@@ -273,6 +275,9 @@ void TextReader::NoteCount(const OpenList& list) {
             "the list has " + std::to_string(std::max(list.entries, list.count)) + " entries, and there is room for " +
                 std::to_string(limit) +
                 (list.shape.rule == ListRule::Fatal ? ": a conversion ends abnormally" : ": the others are lost"));
+    } else if (list.shape.rule == ListRule::Exact && list.count != limit && isValueCounted) {
+        Finding& finding = add(Code("count-mismatch"), "the list always has " + std::to_string(limit) + " entries");
+        finding.help = "write " + std::to_string(limit);
     } else if (!list.isDoubtful && list.entries != list.count) {
         Finding& finding = add(Code("count-mismatch"), "the count is " + std::to_string(list.count) + ", but " +
                                                            std::to_string(list.entries) +
@@ -280,9 +285,6 @@ void TextReader::NoteCount(const OpenList& list) {
         finding.help = "write " + std::to_string(list.entries);
         finding.replacement = std::to_string(list.entries);
         finding.hasReplacement = true;
-    } else if (list.shape.rule == ListRule::Exact && list.entries < limit) {
-        add(Code("count-mismatch"), "the list always has " + std::to_string(limit) + " entries: empty ones are added")
-            .help = "write " + std::to_string(limit);
     }
 }
 

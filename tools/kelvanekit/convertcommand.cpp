@@ -39,6 +39,9 @@ CommandRun DeclareConvert(CLI::App& app) {
     AddReportOptions(app, arguments->report);
     AddJobsOption(app, arguments->options.jobs);
     return [arguments](OutputStream&, OutputStream& errors) {
+        if (arguments->options.sources.names.empty()) {
+            throw CLI::RequiredError("FILE|FOLDER");
+        }
         FindingReport report(arguments->report, errors, errors);
         const ContentChecker checker = [](ContentKind kind, std::string_view bytes) {
             return CheckContent(kind, bytes);

@@ -39,9 +39,8 @@ Finding FileFinding(const FindingCode* code, std::string_view bytes, std::string
 // What one thread works with.
 class FileConverter {
 public:
-    FileConverter(const ConvertOptions& _options, const DestinationOptions& destination, const ContentChecker& _checker,
-                  const FindingReport& _report)
-        : options(_options), checker(_checker), report(_report), writer(destination) {}
+    FileConverter(const ConvertOptions& _options, const ContentChecker& _checker, const FindingReport& _report)
+        : options(_options), checker(_checker), report(_report), writer(options.destination) {}
 
     Converted Convert(const SourceFile& file, const std::string& destination) {
         Converted converted;
@@ -116,11 +115,9 @@ std::string ListOfFailed(const std::vector<std::string>& names) {
 std::vector<std::string> RunPlan(const std::vector<SourceFile>& files, const ConvertPlan& plan,
                                  const ConvertOptions& options, const ContentChecker& checker, FindingReport& report,
                                  OutputStream& errors) {
-    DestinationOptions destination = options.destination;
-    destination.makeFolders = plan.isFolder;
     std::deque<FileConverter> converters;
     for (unsigned worker = 0; worker < options.jobs; ++worker) {
-        converters.emplace_back(options, destination, checker, report);
+        converters.emplace_back(options, checker, report);
     }
     std::vector<std::string> failed;
     ProgressBar progress(errors, files.size());

@@ -77,7 +77,7 @@ std::string Quoted(const std::string& name) {
 ConvertPlan PlanConversions(const std::vector<SourceFile>& sources, const std::vector<std::string>& names,
                             const std::string& output) {
     ConvertPlan plan;
-    plan.isFolder =
+    const bool isFolder =
         EndsInSlash(output) || IsFolder(output) || names.size() != 1 || std::ranges::any_of(names, IsFolder);
     FileIdentities identities;
     std::unordered_map<std::string, const SourceFile*> sourceOf;
@@ -89,7 +89,7 @@ ConvertPlan PlanConversions(const std::vector<SourceFile>& sources, const std::v
     std::unordered_map<std::string, const SourceFile*> writerOf;
     for (const SourceFile& source : sources) {
         const std::string& destination =
-            plan.destinations.emplace_back(plan.isFolder ? DestinationIn(output, source) : output);
+            plan.destinations.emplace_back(isFolder ? DestinationIn(output, source) : output);
         const std::string identity = identities.Of(destination);
         const auto [writer, isFree] = writerOf.emplace(identity, &source);
         const auto overwritten = sourceOf.find(identity);

@@ -11,8 +11,6 @@ namespace Vorn {
 struct ConvertPlan {
     // One for each source.
     std::vector<std::string> destinations;
-    // The destinations lie below a folder, which is made if it is not there.
-    bool isFolder = false;
     // A sentence for each thing that forbids to convert at all: two sources for one destination, or a destination that
     // is another source.
     std::vector<std::string> problems;

@@ -7,8 +7,6 @@
 namespace Vorn {
 
 struct DestinationOptions {
-    // Folders that are not there are made.
-    bool makeFolders = false;
     // A file that holds the bytes already gets the present time all the same.
     bool touch = false;
     // What was written has reached the disk at the end.
@@ -22,8 +20,8 @@ struct DestinationOptions {
 // The temporary file of a destination has one name and is locked while it is written. A second run waits for the lock;
 // one that is not locked was left by a run that was killed, and is removed.
 //
-// A link is followed, permissions are kept, and what is no regular file is written to directly. Each thread needs its
-// own writer, and no two may write to one destination at a time.
+// Folders that are not there are made, a link is followed, permissions are kept, and what is no regular file is written
+// to directly. Each thread needs its own writer, and no two may write to one destination at a time.
 class DestinationWriter {
 public:
     explicit DestinationWriter(const DestinationOptions& options);

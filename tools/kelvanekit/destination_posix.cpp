@@ -272,7 +272,7 @@ public:
     Folder(const std::string& _name, const DestinationOptions& _options) : name(_name), options(_options) {
         const std::string path = name.empty() ? "." : name;
         descriptor = OpenAt(AT_FDCWD, path, kFolderFlags);
-        if (!descriptor.IsOpen() && errno == ENOENT && options.makeFolders) {
+        if (!descriptor.IsOpen() && errno == ENOENT) {
             MakeFolders(path, options.sync);
             descriptor = OpenAt(AT_FDCWD, path, kFolderFlags);
         }

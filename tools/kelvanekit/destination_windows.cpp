@@ -210,7 +210,7 @@ std::string DestinationWriter::Write(const std::string& name, std::string_view b
     if (fs::is_symlink(path, error)) {
         path = fs::weakly_canonical(path);
     }
-    if (options.makeFolders && path.has_parent_path()) {
+    if (path.has_parent_path()) {
         fs::create_directories(path.parent_path());
     }
     WriteFileAt(path, bytes, options);

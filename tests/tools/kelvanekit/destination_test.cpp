@@ -93,10 +93,8 @@ TEST_F(DestinationTest, WritesDirectlyToWhatIsNoFile) {
     EXPECT_EQ(read, "through");
 }
 
-TEST_F(DestinationTest, MakesFoldersWhenAsked) {
-    EXPECT_EQ(Write("x/y/a", "one"), "No such file or directory");
+TEST_F(DestinationTest, MakesFolders) {
     DestinationOptions options;
-    options.makeFolders = true;
     options.sync = true;
     EXPECT_EQ(Write("x/y/a", "one", options), "");
     EXPECT_EQ(Get("x/y/a"), "one");

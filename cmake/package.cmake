@@ -73,7 +73,9 @@ The content of a space-strategy game is edited as text and shipped in a
 compact binary form. kelvane converts one file a run between the two: meshes,
 particle effects, brushes, definitions of entities, and save games. It finds
 out the form of a file by itself, brings older versions up to date, and
-reports what is wrong with damaged ones.")
+reports what is wrong with damaged ones.
+kelvane-kit checks any number of files and reports each mistake at its line,
+and converts whole folders, each file as a whole or not at all.")
 set(CPACK_DEBIAN_LIBVORN-DEV_PACKAGE_NAME libvorn-dev)
 set(CPACK_DEBIAN_LIBVORN-DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_LIBVORN-DEV_PACKAGE_DEPENDS "kelvane (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")

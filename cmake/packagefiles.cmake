@@ -1,7 +1,8 @@
 # Completes what CPack has put together before it is packed.
 file(GLOB documentFolders LIST_DIRECTORIES true ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*)
 
-# Debian wants manual pages and changelogs compressed, a changelog in its own form, and reasons for what it would not do.
+# Debian wants manual pages and changelogs compressed, a changelog in its own form, packages' completions for zsh in a
+# folder of their own, and reasons for what it would not do.
 function(complete_debian_package documents)
   get_filename_component(package ${documents} NAME)
   get_filename_component(share ${documents}/../.. ABSOLUTE)
@@ -18,6 +19,9 @@ function(complete_debian_package documents)
       "# loads libraries, which counts in builds that run it thousands of times. It opens no network connection and\n"
       "# looks up no names of hosts or users.\n"
       "kelvane: statically-linked-binary [usr/bin/kelvane*]\n")
+  endif()
+  if(EXISTS ${share}/zsh/site-functions)
+    file(RENAME ${share}/zsh/site-functions ${share}/zsh/vendor-completions)
   endif()
   file(GLOB_RECURSE compressed ${documents}/changelog* ${share}/man/*)
   foreach(file IN LISTS compressed)

@@ -8,15 +8,14 @@
 
 using namespace Vorn;
 
-struct Watch : ReportHandler, EndGuard {
+struct PrintReports : ReportHandler {
     void Handle(const char*, int, std::u16string_view text, bool) override { std::puts(BytesFromName(text).c_str()); }
-    void BeforeAbnormalEnd() override { throw 2; }
 };
 
 // Makes a fighter a bomber of twice the hull points: bomber SOURCE DESTINATION
-int main(int argc, char** argv) try {
-    Watch watch;
-    g_Reporting.reportHandler = &watch;
+int main(int argc, char** argv) {
+    PrintReports handler;
+    g_Reporting.reportHandler = &handler;
     Core core;
     EntitySystem entities(core.fileArchiveSystem);
     const auto definition = entities.LoadEntityDef(NameFromBytes(argc == 3 ? argv[1] : ""));
@@ -26,12 +25,9 @@ int main(int argc, char** argv) try {
     fighter->maxHullPoints *= 2;
     fighter->statCountType =
         static_cast<PlayerEntityCountType>(EnumFromText(u"FighterBomber", kEnumTable<PlayerEntityCountType>));
-    const auto name = NameFromBytes(argv[2]);
-    ScopedArchive archive(core.fileArchiveSystem,
-                          core.fileArchiveSystem.OpenForWrite(name, false, FileArchiveType::Text));
+    FileArchiveSystem& archives = core.fileArchiveSystem;
+    ScopedArchive archive(archives, archives.OpenForWrite(NameFromBytes(argv[2]), false, FileArchiveType::Text));
     if (!archive)
         return 1;
     entities.WriteEntityDef(*archive, *fighter);
-} catch (int status) {
-    return status;
 }

@@ -27,8 +27,8 @@ private:
     EndGuard* next;
 };
 
-// The largest storage in bytes of a list that grows. One that asks for more ends the process, so that the same file ends
-// the same way on every machine.
+// The largest storage in bytes of a list that grows. One that asks for more ends the process, so that the same file
+// ends the same way on every machine.
 inline constexpr unsigned long long kMaxListBytes = 2147483647;
 
 } // namespace Vorn

@@ -2,7 +2,7 @@
 #include "tools/kelvanekit/checkfiles.h"
 #include "tools/kelvanekit/command.h"
 #include "tools/kelvanekit/commandoptions.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/namelists.h"
 
 #include <CLI/CLI.hpp>

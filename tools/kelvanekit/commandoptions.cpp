@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/commandoptions.h"
 
-#include "tools/kelvanekit/findingcodes.h"
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
+#include "tools/kelvanekit/findings/nearest.h"
 #include "tools/kelvanekit/orderedjobs.h"
 
 #include <CLI/CLI.hpp>

@@ -2,7 +2,7 @@
 
 #include "tools/kelvane/contentconverter.h"
 #include "tools/kelvanekit/convertplan.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/inputfile.h"
 #include "tools/kelvanekit/interruption.h"
 #include "tools/kelvanekit/orderedjobs.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/kelvanekit/finding.h"
+#include "tools/kelvanekit/findings/finding.h"
 
 #include <span>
 #include <string>

@@ -1,6 +1,6 @@
 #include "tools/kelvanekit/filename.h"
-#include "tools/kelvanekit/findingcodes.h"
 #include "tools/kelvanekit/findingforms.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/version.h"
 #include "tools/kelvanekit/visibletext.h"

@@ -2,7 +2,7 @@
 
 #include "tools/kelvanekit/command.h"
 #include "tools/kelvanekit/findingreport.h"
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 #include "tools/kelvanekit/version.h"
 #include "tools/kelvanekit/visibletext.h"
 

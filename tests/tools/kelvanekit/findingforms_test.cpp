@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/findingforms.h"
 
-#include "tools/kelvanekit/findingcodes.h"
 #include "tools/kelvanekit/findingreport.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/linefinder.h"
 
 #include <gtest/gtest.h>

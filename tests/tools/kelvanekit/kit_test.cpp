@@ -1,7 +1,7 @@
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 #include "tools/kelvanekit/command.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

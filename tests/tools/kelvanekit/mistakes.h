@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/kelvanekit/contentkind.h"
+#include "tools/kelvane/contentkind.h"
 
 #include <random>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/sources.h"
 
 #include "tests/support/tempfolder.h"
-#include "tools/kelvanekit/contentkind.h"
+#include "tools/kelvane/contentkind.h"
 #include "tools/kelvanekit/glob.h"
 #include "tools/kelvanekit/inputfile.h"
 

@@ -10,8 +10,8 @@
 #include "tools/kelvanekit/check/loadedcontent.h"
 #include "tools/kelvanekit/check/readscope.h"
 #include "tools/kelvanekit/check/sourcetext.h"
-#include "tools/kelvanekit/findingcodes.h"
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "engine/archive/archiveversion.h"
 #include "engine/string/ascii.h"
 #include "tools/kelvanekit/check/writtentext.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 #include <cmath>

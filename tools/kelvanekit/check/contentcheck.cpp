@@ -7,7 +7,7 @@
 #include "tools/kelvanekit/check/contentfindings.h"
 #include "tools/kelvanekit/check/mendsearch.h"
 #include "tools/kelvanekit/check/writtentext.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 #include <tuple>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tools/kelvanekit/contentkind.h"
-#include "tools/kelvanekit/finding.h"
+#include "tools/kelvane/contentkind.h"
+#include "tools/kelvanekit/findings/finding.h"
 
 namespace Vorn {
 

@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/check/contentfindings.h"
 
 #include "tools/kelvanekit/check/failedcheck.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 #include <set>

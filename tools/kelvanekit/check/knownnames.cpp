@@ -1,6 +1,6 @@
 #include "tools/kelvanekit/check/knownnames.h"
 
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 namespace Vorn {
 

@@ -7,7 +7,7 @@
 #include "gs/entity/entitydef.h"
 #include "gs/player/playersystem.h"
 #include "gs/render/particle/particlesimulationdefinition.h"
-#include "tools/kelvanekit/contentkind.h"
+#include "tools/kelvane/contentkind.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "tools/kelvanekit/check/mendsearch.h"
 
 #include "engine/string/ascii.h"
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include <algorithm>
 #include <memory>

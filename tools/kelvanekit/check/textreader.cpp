@@ -4,7 +4,7 @@
 #include "engine/archive/archiveversion.h"
 #include "engine/string/utf8.h"
 #include "tools/kelvanekit/check/readscope.h"
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include <algorithm>
 #include <utility>

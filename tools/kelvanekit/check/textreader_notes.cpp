@@ -3,7 +3,7 @@
 
 #include "engine/string/utf8.h"
 #include "gs/entity/entitytypes.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "engine/string/numbertext.h"
 #include "engine/string/scan.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
 #include <charconv>

@@ -2,7 +2,7 @@
 
 #include "engine/math/bool.h"
 #include "tools/kelvanekit/check/sourcetext.h"
-#include "tools/kelvanekit/finding.h"
+#include "tools/kelvanekit/findings/finding.h"
 
 #include <span>
 

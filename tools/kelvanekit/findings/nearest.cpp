@@ -1,4 +1,4 @@
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include "engine/string/utf8.h"
 

@@ -1,6 +1,6 @@
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
-#include "tools/kelvanekit/nearest.h"
+#include "tools/kelvanekit/findings/nearest.h"
 
 #include <algorithm>
 #include <vector>

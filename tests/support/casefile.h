@@ -56,8 +56,8 @@ struct Case {
 // The lines of a text file behind its header and version.
 Lines FieldsOfText(std::string text);
 
-// The conversion type of a case file or a folder of samples, up to an underscore in its name: an engine type by its own name,
-// else an entity.
+// The conversion type of a case file or a folder of samples, up to an underscore in its name: an engine type by its own
+// name, else an entity.
 std::string ConversionTypeOf(const std::string& name);
 
 // The contents and cases of one kind, tests/content/KIND.cases:

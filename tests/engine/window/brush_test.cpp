@@ -41,7 +41,7 @@ TEST_F(BrushTest, MarginsPartTheTexture) {
         text.replace(text.find("\tleft 1"), 34, margins);
         text.replace(text.find("[ 10"), 20, "[ -5 , -5 , 10 , 10 ]");
         Brush brush = ReadBrush(text);
-        const auto& middle = brush.GetState(0).GetTextureQuad(4).corners;
+        const auto& middle = brush.GetState(0).GetTextureQuad(8).corners;
         brush.ReleaseTextures();
         std::string signs;
         for (const float edge : {middle[0].u, middle[2].u, middle[0].v, middle[2].v}) {

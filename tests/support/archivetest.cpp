@@ -1,5 +1,7 @@
 #include "tests/support/archivetest.h"
 
+#include "tests/support/casesource.h"
+
 namespace Vorn {
 
 std::string ArchiveTest::Written(FileArchiveType form, const Fields& fields, bool hasFloatBits) {
@@ -7,9 +9,7 @@ std::string ArchiveTest::Written(FileArchiveType form, const Fields& fields, boo
     FieldIo io(*archive, FieldIo::Direction::Write);
     fields(io);
     core->fileArchiveSystem.Close(archive);
-    const std::string_view header = form == FileArchiveType::Text
-                                        ? std::string_view("\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\n")
-                                        : std::string_view("BIN2\n\xC2\0\0\0", 9);
+    const std::string header = CurrentHeader(form == FileArchiveType::Binary);
     std::string bytes = ReadBytes(folder.Path() / "written").value_or("");
     EXPECT_TRUE(bytes.starts_with(header));
     return bytes.substr(header.size());

@@ -361,6 +361,7 @@ TEST_F(FileArchiveTest, CheckSumsOfBothForms) {
     std::int64_t int64 = 99;
     Bool boolean = true;
     double real = 1.0;
+    float single = 0.5f;
     std::int32_t integer = -5;
     Matrix33 matrix;
     struct Row {
@@ -377,6 +378,7 @@ TEST_F(FileArchiveTest, CheckSumsOfBothForms) {
         {[&](FieldIo& io) { io.Int64(u"k", int64); }, 0, 0},
         {[&](FieldIo& io) { io.Bool(u"k", boolean); }, 1, 1},
         {[&](FieldIo& io) { io.Double(u"k", real); }, 0x3FF03FF0, 0x3FF03FF0},
+        {[&](FieldIo& io) { io.Float(u"k", single); }, kHalf, kHalf},
         {[&](FieldIo& io) { io.Int(u"k", integer); }, 0xFFFFFFFB, 0xFFFFFFFB},
         {[&](FieldIo& io) { io.Matrix33(u"k", matrix); }, 9 * kZero, 9 * kZero},
     };

@@ -7,6 +7,7 @@
 #include "gs/entity/entitytypes.h"
 #include "gs/render/particle/particlesimulationdefinition.h"
 #include "tests/support/allkinds.h"
+#include "tests/support/casesource.h"
 #include "tests/support/enginetest.h"
 
 #include <functional>
@@ -18,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::literals;
 
-const std::string kTextHeader = "\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\n";
+const std::string kTextHeader = CurrentHeader(false);
 constexpr std::size_t kBinaryHeaderSize = 9;
 
 // The content of a file of any kind, by the folder of the samples that it comes from.
@@ -268,6 +269,17 @@ TEST_F(FurtherArchivesTest, DamagedCaches) {
         deep += record.substr(0, 12);
     }
     EXPECT_LT(Replayed(deep).size(), 40000u);
+    const auto nested = [&](int depth) {
+        std::string bytes;
+        for (int i = 0; i < depth; ++i) {
+            bytes += record.substr(0, 12);
+        }
+        const std::string replayed = Replayed(bytes + record.substr(12));
+        return std::count(replayed.begin(), replayed.end(), '"') > 0;
+    };
+    // The file itself is the first of 256 levels.
+    EXPECT_TRUE(nested(255));
+    EXPECT_FALSE(nested(256));
     for (std::size_t size = 0; size < record.size(); ++size) {
         Replayed(record.substr(0, size));
     }

@@ -1,11 +1,12 @@
 #include "engine/archive/further/versionedfilearchive.h"
+#include "tests/support/casesource.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {
 
 namespace {
 
-const std::string kHeader = "\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\n";
+const std::string kHeader = CurrentHeader(false);
 
 // Settings that remember how they were read.
 class Settings final : public VersionedFileArchive {

@@ -156,6 +156,41 @@ TEST_F(LineReaderTest, BlockBoundariesDoNotShow) {
     }
 }
 
+// A source that fails behind its first bytes.
+class FailingStore final : public FileStore {
+public:
+    std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override { return std::make_unique<Stream>(); }
+    bool Exists(std::u16string_view) const override { return true; }
+
+private:
+    class Stream final : public ByteStream {
+    public:
+        std::ptrdiff_t Read(void* place, std::size_t) override {
+            return isFirst ? (isFirst = false, std::string_view("one\ntw").copy(static_cast<char*>(place), 6)) : -1;
+        }
+        bool Write(const void*, std::size_t) override { return false; }
+        bool Close() override { return true; }
+
+    private:
+        bool isFirst = true;
+    };
+};
+
+TEST_F(LineReaderTest, AReadThatFailsEndsTheLinesWithAReport) {
+    FailingStore store;
+    FileSystem files(store);
+    File* file = files.Open(u"broken", FileAccess::Read, FileTranslation::Text);
+    FixedString<20> line;
+    Lines lines;
+    while (!file->GetString(line.Buffer())) {
+        lines.emplace_back(line.View());
+    }
+    EXPECT_EQ(lines, (Lines{u"one\n", u"tw"}));
+    const Reports reports = TakeReports();
+    EXPECT_EQ(reports.back(), "File GetString - Error Encountered. [ File = broken ]\n");
+    files.Close(file);
+}
+
 } // namespace
 
 } // namespace Vorn

@@ -62,6 +62,9 @@ TEST_F(StringLibraryTest, CopiesPartsInsideTheSource) {
     EXPECT_EQ(text.View(), u"cde");
     CopyPart(text.Buffer(), u"abcdef", 5, 3);
     EXPECT_EQ(text.View(), u"f");
+    CopyPart(text.Buffer(), u"abcdef", 1, 0);
+    EXPECT_EQ(text.View(), u"");
+    CopyPart(text.Buffer(), u"abcdef", 5, 3);
     CopyPart(text.Buffer(), u"abc", 9, 1);
     EXPECT_EQ(text.View(), u"");
     EXPECT_EQ(TakeReports(), Reports());

@@ -34,6 +34,28 @@ TEST_F(BrushTest, TextureQuadsWithoutAnImage) {
     EXPECT_EQ(untouched.corners[3].v, 1.0f);
 }
 
+// The sign of each coordinate tells on which side of 0 an edge lies, so which margin it has.
+TEST_F(BrushTest, MarginsPartTheTexture) {
+    const auto corners = [&](std::string_view margins) {
+        std::string text = kFrame;
+        text.replace(text.find("\tleft 1"), 34, margins);
+        text.replace(text.find("[ 10"), 20, "[ -5 , -5 , 10 , 10 ]");
+        Brush brush = ReadBrush(text);
+        const auto& middle = brush.GetState(0).GetTextureQuad(8).corners;
+        brush.ReleaseTextures();
+        std::string signs;
+        for (const float edge : {middle[0].u, middle[2].u, middle[0].v, middle[2].v}) {
+            signs += edge > 0.0f ? '+' : '-';
+        }
+        return signs;
+    };
+    EXPECT_EQ(corners("\tleft 1\n\tright 2\n\ttop 3\n\tbottom 4\n"), "-+-+");
+    EXPECT_EQ(corners("\tleft 6\n\tright 2\n\ttop 3\n\tbottom 4\n"), "++-+");
+    EXPECT_EQ(corners("\tleft 1\n\tright 6\n\ttop 3\n\tbottom 4\n"), "---+");
+    EXPECT_EQ(corners("\tleft 1\n\tright 2\n\ttop 6\n\tbottom 4\n"), "-+++");
+    EXPECT_EQ(corners("\tleft 1\n\tright 2\n\ttop 3\n\tbottom 6\n"), "-+--");
+}
+
 TEST_F(BrushTest, CopiesHaveTexturesOfTheirOwn) {
     Brush brush = ReadBrush(kFrame);
     EXPECT_EQ(core->textureSystem.GetTextureCount(), 5);
@@ -70,6 +92,10 @@ TEST_F(BrushTest, LayoutsInText) {
     const Fields fields = [&](FieldIo& io) { layout.Fields(io); };
     Read(std::string(kTextHeader) + std::string(kText), fields);
     EXPECT_EQ(Written(FileArchiveType::Text, fields), kText);
+    layout = BrushLayout();
+    EXPECT_EQ(Written(FileArchiveType::Text, fields),
+              "textureName \"\"\r\nstartTopLeft [ 0 , 0 ]\r\nwidth 0\r\nheight 0\r\nrowItemCount 0\r\n"
+              "horizontalStride 0\r\nverticalStride 0\r\n");
 }
 
 } // namespace

@@ -42,6 +42,22 @@ TEST_F(EntityTypesTest, EachTypeHasItsClassButTwo) {
     EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeCount)), nullptr);
 }
 
+// Other tables number the types by their order.
+TEST_F(EntityTypesTest, TheOrderIsKeptForGood) {
+    std::string order;
+    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+        order += Utf8(FindEntityType(static_cast<EntityType>(i))->text) + " ";
+    }
+    EXPECT_EQ(order, "Ability Buff EmpireWindowNode Fighter Squad Debris Weapon CannonShell CapitalShip Cosmetic "
+                     "EntryVehicle Fleet Formation Frigate MissionAttackPlanet MissionCaptureResources MissionColonize "
+                     "MissionDefendFlagship MissionBuildStarBase MissionBuildMines MissionExplore MissionRaid PipCloud "
+                     "Planet PlanetBonus PlanetConnection PlanetModuleHangarDefense PlanetModuleShipFactory "
+                     "PlanetModuleStandard PlanetModuleTradePort PlanetModuleRefinery PlanetModuleSpaceMine "
+                     "PlanetModuleUserAbilityModule PlanetModuleWeaponDefense Player Quest ResearchSubject "
+                     "ResourceAsteroid SpaceMine Star StarBase StarBaseUpgrade Titan TitanUpgrade "
+                     "MissionFosterRelationships Trigger MissionCaptureMinorFaction ");
+}
+
 TEST_F(EntityTypesTest, AnEmptyDefinitionOfEachTypeSurvivesBothForms) {
     for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));

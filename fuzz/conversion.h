@@ -19,10 +19,18 @@ public:
     const std::string& SourcePath() const { return source; }
 
     // Writes both forms of a source, and of some without angles the binary form twice more: one pass may still
-    // normalise, but the next must change nothing. False if it did.
+    // normalise, but the next must change nothing. False if it did. Some sources are also read with a failure on the
+    // way, some meshes are searched for, and some conversions go on for many reports.
     bool Convert(std::string_view bytes);
 
 private:
+    static constexpr int kFewReports = 200;
+    static constexpr int kManyReports = 20000;
+
+    template <class Conversion>
+    bool Guarded(Conversion convert) const;
+    void RunWithFailingReads(std::size_t soundBytes) const;
+    void RunWithSearch() const;
     bool Run(const std::string& from, const std::string& to, std::u16string_view form) const;
 
     std::u16string type;
@@ -31,6 +39,7 @@ private:
     std::string text;
     std::string binary;
     std::string settledBinary;
+    int mostReports = kFewReports;
 };
 
 } // namespace Vorn

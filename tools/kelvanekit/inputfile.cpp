@@ -87,11 +87,13 @@ std::string InputFile::ReadStandardInput() {
     return ReadAll(kStandardInput);
 }
 
-// A regular file comes in one piece, and a read of nothing shows that it did not grow meanwhile.
+// A regular file comes in one piece, and in less than was asked for unless it grew meanwhile.
 std::string InputFile::ReadAll(int descriptor) {
     FileStatus status = {};
+    std::size_t expected = 0;
     if (StatusOf(descriptor, status) == 0 && status.st_size > 0) {
-        Grow(static_cast<std::size_t>(status.st_size) + 1);
+        expected = static_cast<std::size_t>(status.st_size);
+        Grow(expected + 1);
     }
     for (;;) {
         if (size == capacity) {
@@ -103,6 +105,9 @@ std::string InputFile::ReadAll(int descriptor) {
         }
         if (count > 0) {
             size += static_cast<std::size_t>(count);
+            if (size == expected) {
+                return {};
+            }
         } else if (errno != EINTR) {
             size = 0;
             return LastError();

@@ -16,8 +16,9 @@ namespace {
 // Lines that have to fit behind a mend before it is settled.
 constexpr std::int32_t kSettledAfter = 12;
 constexpr int kMostTrialsPerMistake = 400;
-// Lines that all trials together may pass.
-constexpr std::int64_t kMostTriedLines = 30000000;
+// Lines that all trials together may pass, and how often those of a large file.
+constexpr std::int64_t kMostTriedLines = 5000000;
+constexpr std::int64_t kMostReadings = 60;
 constexpr std::int32_t kFarthestLine = 48;
 constexpr std::size_t kRecentChoices = 6;
 
@@ -98,22 +99,43 @@ bool FitsKind(std::string_view value, FieldKind kind) {
 class MendSearch {
 public:
     MendSearch(ContentKind _kind, const SourceText& _text, const TextHeader& _header)
-        : kind(_kind), text(_text), header(_header) {}
+        : kind(_kind), text(_text), header(_header),
+          mostTriedLines(std::max(kMostTriedLines, kMostReadings * _text.LineCount())) {}
 
     Mends Run() {
         TrialPtr root = std::make_shared<Trial>();
         Try(*root);
-        while (!root->isRead && triedLines < kMostTriedLines) {
+        while (!root->isRead && triedLines < mostTriedLines) {
             TrialPtr next = MendOnce(*root);
             if (next == nullptr) {
                 break;
             }
             root = next;
         }
+        JoinSkips(root->mends);
         return root->mends;
     }
 
 private:
+    // Lines that nothing asks for are one mistake where there are many of them in a row.
+    static void JoinSkips(Mends& mends) {
+        constexpr std::int32_t kMany = 4;
+        std::ranges::stable_sort(mends, {}, &Mend::line);
+        for (auto first = mends.begin(); first != mends.end(); ++first) {
+            auto next = first + 1;
+            std::int32_t end = first->line + first->value;
+            while (first->kind == Mend::Kind::SkipLines && next != mends.end() && next->line == end &&
+                   next->kind == Mend::Kind::SkipLines) {
+                end += next->value;
+                ++next;
+            }
+            if (next - first >= kMany) {
+                first->value = end - first->line;
+                mends.erase(first + 1, next);
+            }
+        }
+    }
+
     void Try(Trial& trial) {
         LoadedContent content(kind);
         TextReader reader(text, header, TextReader::Mode::Probing, nullptr, trial.mends);
@@ -132,7 +154,7 @@ private:
             return trial.mismatch.line - trial.baseLine - 6.0 * trial.weight + 0.001 * trial.mismatch.line;
         };
         AddChildren(start, 0.0);
-        for (int trials = 0; !queue.empty() && trials < kMostTrialsPerMistake && triedLines < kMostTriedLines;
+        for (int trials = 0; !queue.empty() && trials < kMostTrialsPerMistake && triedLines < mostTriedLines;
              ++trials) {
             const TrialPtr trial = queue.top();
             queue.pop();
@@ -405,6 +427,7 @@ private:
     const ContentKind kind;
     const SourceText& text;
     const TextHeader& header;
+    const std::int64_t mostTriedLines;
     Queue queue;
     std::set<std::tuple<std::int32_t, const char16_t*, std::size_t, std::int32_t, bool>> seen;
     double parentWeight = 0.0;

@@ -1,0 +1,233 @@
+#include "fuzz/damage.h"
+#include "tests/support/tempfolder.h"
+#include "tests/tools/kelvanekit/mistakes.h"
+#include "tools/kelvane/contentconverter.h"
+#include "tools/kelvanekit/check/contentcheck.h"
+#include "tools/kelvanekit/check/knownnames.h"
+#include "tools/kelvanekit/check/sourcetext.h"
+#include "tools/kelvanekit/check/writtentext.h"
+#include "tools/kelvanekit/findingcodes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace Vorn {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Sample {
+    std::string name;
+    ContentKind kind;
+    std::string bytes;
+};
+
+const std::vector<Sample>& Samples() {
+    static const std::vector<Sample> samples = [] {
+        std::vector<Sample> result;
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(KELVANE_SAMPLES)) {
+            if (const auto kind = ContentKindOfFile(entry.path().string()); entry.is_regular_file() && kind) {
+                result.push_back({entry.path().filename().string(), *kind, *ReadBytes(entry.path())});
+            }
+        }
+        std::ranges::sort(result, {}, &Sample::name);
+        return result;
+    }();
+    return samples;
+}
+
+const Sample& SampleNamed(std::string_view name) {
+    return *std::ranges::find(Samples(), name, &Sample::name);
+}
+
+// The sample with the first occurrence of a text replaced.
+std::string Edited(std::string_view sample, std::string_view from, std::string_view to) {
+    std::string bytes = SampleNamed(sample).bytes;
+    const std::size_t place = bytes.find(from);
+    EXPECT_NE(place, std::string::npos) << from;
+    return bytes.replace(place, from.size(), to);
+}
+
+std::string Shown(const Findings& findings) {
+    std::string shown;
+    for (const Finding& finding : findings) {
+        const bool isBinary = finding.place.line == 0;
+        shown += std::to_string(isBinary ? finding.place.offset : finding.place.line) + ' ' +
+                 std::string(finding.code->name) + ' ' + finding.key + '\n';
+    }
+    return shown;
+}
+
+std::string LastKeyOf(const Finding& finding) {
+    const std::string key = finding.key.substr(finding.key.rfind('.') + 1);
+    const std::size_t entry = key.rfind('[');
+    return key.substr(0, entry == 0 ? std::string::npos : entry);
+}
+
+bool IsFound(const Mistake& mistake, const std::vector<Mistake>& all, const Findings& findings) {
+    return std::ranges::any_of(mistake.places, [&](const MistakePlace& place) {
+        return std::ranges::any_of(findings, [&](const Finding& finding) {
+            return finding.place.line == SoundContent::LineOf(place, mistake, all) &&
+                   (place.key.empty() || LastKeyOf(finding) == place.key);
+        });
+    });
+}
+
+struct Score {
+    int mistakes = 0;
+    int found = 0;
+    int findings = 0;
+
+    void Check(const Sample& sample, const SoundContent& content, const std::vector<Mistake>& some) {
+        const Findings result = CheckContent(sample.kind, content.With(some));
+        for (const Mistake& mistake : some) {
+            const bool isFound = IsFound(mistake, some, result);
+            if (!isFound && ++missedCount <= 10) {
+                missed +=
+                    sample.name + ' ' + std::to_string(mistake.line + 1) + ' ' + mistake.kind + '\n' + Shown(result);
+            }
+            ++mistakes;
+            found += isFound ? 1 : 0;
+        }
+        findings += static_cast<int>(result.size());
+    }
+
+    void Expect() const {
+        EXPECT_GE(found, 0.99 * mistakes) << missed;
+        EXPECT_LE(findings, 1.02 * mistakes);
+    }
+
+private:
+    std::string missed;
+    int missedCount = 0;
+};
+
+TEST(CheckTest, SamplesHaveNoMistakes) {
+    for (const Sample& sample : Samples()) {
+        EXPECT_EQ(Shown(CheckContent(sample.kind, sample.bytes)), "") << sample.name;
+        std::string plain = sample.bytes.substr(3);
+        std::erase(plain, '\r');
+        std::erase(plain, '\t');
+        EXPECT_EQ(Shown(CheckContent(sample.kind, plain)), "") << sample.name;
+    }
+}
+
+TEST(CheckTest, SingleMistakesAreFoundWhereTheyAre) {
+    constexpr std::size_t kEach = 41;
+    Score score;
+    std::size_t number = 0;
+    for (const Sample& sample : Samples()) {
+        const SoundContent content(sample.kind, sample.bytes);
+        for (const Mistake& mistake : content.AllMistakes()) {
+            if (++number % kEach == 0) {
+                score.Check(sample, content, {mistake});
+            }
+        }
+    }
+    score.Expect();
+}
+
+TEST(CheckTest, ManyMistakesAreFoundInOneGo) {
+    Random random(17);
+    Score score;
+    for (const Sample& sample : Samples()) {
+        const SoundContent content(sample.kind, sample.bytes);
+        const std::vector<Mistake> all = content.AllMistakes();
+        for (int i = 0; i < 4; ++i) {
+            std::vector<Mistake> some;
+            for (std::size_t k = 0; k < 8 && k < all.size() / 100; ++k) {
+                const Mistake& mistake = all[random() % all.size()];
+                const bool isApart = std::ranges::all_of(some, [&](const Mistake& other) {
+                    return mistake.line > other.line + other.removed + 1 ||
+                           other.line > mistake.line + mistake.removed + 1;
+                });
+                if (isApart) {
+                    some.push_back(mistake);
+                }
+            }
+            std::ranges::sort(some, {}, &Mistake::line);
+            score.Check(sample, content, some);
+        }
+    }
+    score.Expect();
+}
+
+// A verdict without findings means that a conversion to text keeps everything.
+TEST(CheckTest, NothingIsLostSilently) {
+    constexpr std::uint64_t kSeed = 23;
+    Random random(kSeed);
+    ContentConverter converter;
+    for (const Sample& sample : Samples()) {
+        for (int i = 0; i < 12; ++i) {
+            const std::string damaged = Damage(sample.bytes, {sample.bytes}, random);
+            if (!CheckContent(sample.kind, damaged).empty()) {
+                continue;
+            }
+            EXPECT_EQ(converter.Convert(sample.kind, "x", damaged, FileArchiveType::Text), ConversionResult::Converted);
+            const SourceText source(damaged);
+            const SourceText written(converter.Bytes());
+            EXPECT_TRUE(IsSameText({source.Start(), source.End()}, {written.Start(), written.End()}))
+                << sample.name << ' ' << i << " of seed " << kSeed;
+        }
+    }
+}
+
+TEST(CheckTest, BinaryFilesAreChecked) {
+    ContentConverter converter;
+    const Sample& sample = SampleNamed("frigate_lancer.entity");
+    ASSERT_EQ(converter.Convert(sample.kind, "x", sample.bytes, FileArchiveType::Binary), ConversionResult::Converted);
+    const std::string binary(converter.Bytes());
+    EXPECT_EQ(Shown(CheckContent(sample.kind, binary)), "");
+    EXPECT_EQ(Shown(CheckContent(sample.kind, binary + "xyz")), std::to_string(binary.size()) + " trailing-content \n");
+    for (std::size_t size = 9; size < binary.size(); ++size) {
+        const Findings findings = CheckContent(sample.kind, binary.substr(0, size));
+        ASSERT_EQ(findings.size(), 1U) << size << '\n' << Shown(findings);
+        EXPECT_TRUE(findings[0].code == Code("truncated") || findings[0].code == Code("count-mismatch")) << size;
+        EXPECT_FALSE(findings[0].key.empty());
+    }
+    std::string odd = binary;
+    odd[odd.find("G\0r\0a\0v", 0, 7)] = '"';
+    EXPECT_EQ(Shown(CheckContent(sample.kind, odd)),
+              "27 not-representable defaultAutoAttackRange\n27 unknown-text defaultAutoAttackRange\n");
+}
+
+TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
+    const auto check = [](std::string_view sample, std::string_view from, std::string_view to) {
+        return Shown(CheckContent(SampleNamed(sample).kind, Edited(sample, from, to)));
+    };
+    EXPECT_EQ(check("signal-buoy.mesh", "Color 0", "Color ff0000ff"), "34 not-kept MeshData.Vertex[0].Color\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "slotCount 6.000000", "slotCount 6.12345678"),
+              "59 lost-decimals slotCount\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "Version 194", "Version 195"), "2 newer-version ZephArchiveVersion\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "296 not-kept ability:0\n");
+    EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
+              "356 index-out-of-range MeshData.Triangle[0].iVertex0\n");
+}
+
+TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {
+    for (const char* type : {"CapitalShip", "Fleet", "Planet", "Squad", "Weapon", "Frigat", "frigate", "Spaceship"}) {
+        const Findings findings = CheckContent(
+            ContentKind::Entity, Edited("frigate_lancer.entity", "\"Frigate\"", '"' + std::string(type) + '"'));
+        ASSERT_EQ(findings.size(), 1U) << type << '\n' << Shown(findings);
+        EXPECT_EQ(findings[0].place.line, 3);
+        EXPECT_EQ(findings[0].replacement, "\"Frigate\"");
+    }
+}
+
+TEST(CheckTest, NamesAreLookedUp) {
+    KnownNames names;
+    names.Add(NameKind::Particle, u"FrigateExplosion");
+    const Sample& sample = SampleNamed("frigate_hammerfall.entity");
+    const Findings findings = CheckContent(sample.kind, sample.bytes, {&names});
+    EXPECT_TRUE(std::ranges::any_of(findings, [](const Finding& finding) {
+        return finding.key == "ExplosionName" && finding.code == Code("unresolved-name");
+    })) << Shown(findings);
+}
+
+} // namespace
+
+} // namespace Vorn

@@ -41,10 +41,10 @@ TEST_F(BrushTest, MarginsPartTheTexture) {
         text.replace(text.find("\tleft 1"), 34, margins);
         text.replace(text.find("[ 10"), 20, "[ -5 , -5 , 10 , 10 ]");
         Brush brush = ReadBrush(text);
-        const auto& middle = brush.GetState(0).GetTextureQuad(8).corners;
+        const Brush::TextureQuad quad = brush.GetTextureQuad(0, 8);
         brush.ReleaseTextures();
         std::string signs;
-        for (const float edge : {middle[0].u, middle[2].u, middle[0].v, middle[2].v}) {
+        for (const float edge : {quad.corners[0].u, quad.corners[2].u, quad.corners[0].v, quad.corners[2].v}) {
             signs += edge > 0.0f ? '+' : '-';
         }
         return signs;

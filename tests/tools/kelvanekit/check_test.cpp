@@ -6,7 +6,7 @@
 #include "tools/kelvanekit/check/knownnames.h"
 #include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/check/writtentext.h"
-#include "tools/kelvanekit/findingcodes.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <gtest/gtest.h>
 

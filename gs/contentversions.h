@@ -11,7 +11,7 @@ namespace Vorn {
 inline constexpr std::int32_t kRelationshipChangeRateVersion = 193;
 // Ships and star bases have effects of their own for a jump, in place of two sounds.
 inline constexpr std::int32_t kHyperspaceEffectsVersion = 194;
-// Players have a race type where they only told psi from others, and six more events have a sound.
+// Players have a race type where they only said whether it was psi, and six more events have a sound.
 inline constexpr std::int32_t kRaceTypeVersion = 193;
 // Actions that spawn ships tell whether these adopt the state of the first spawner's minor faction.
 inline constexpr std::int32_t kSpawnAdoptionVersion = 193;

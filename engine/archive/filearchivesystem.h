@@ -46,7 +46,7 @@ public:
     // The storage behind archives of the Steam form, not owned.
     void SetRemoteStorage(ArchiveMaker* storage) { remoteStorage = storage; }
 
-    // Makes and counts the archive of a file that stands behind its header; null for an unknown type.
+    // Makes and counts the archive of a file that has been read up to its header; null for an unknown type.
     FileArchive* Create(File* file, FileArchiveType type, bool hasFloatBits);
 
     const FieldContext& GetContext() const { return context; }

@@ -49,7 +49,7 @@ private:
     bool ended = true;
     bool failed = false;
 
-    // The form of a file is told from its first bytes, and most content files are small.
+    // The form of a file is detected from its first bytes, and most content files are small.
     static constexpr std::size_t kFirstRead = 8192;
 };
 

@@ -54,7 +54,7 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
     return length > 0 && line[length - 1] == u'\n' ? LineKind::Whole : LineKind::Open;
 }
 
-// The quick road for a line of plain text that lies in the buffer whole. Takes nothing where it says false.
+// The fast path for a line of plain text that lies in the buffer whole. Reads nothing where it returns false.
 bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
     if (!StandsAtByte() || limit <= kWidenBlock) {
         return false;

@@ -15,7 +15,7 @@ struct PathParts {
 
 PathParts SplitPath(std::u16string_view path);
 
-// What stands behind drive and folders.
+// What follows drive and folders.
 std::u16string_view FileNameOf(std::u16string_view path);
 
 } // namespace Vorn

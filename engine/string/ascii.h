@@ -17,7 +17,7 @@
 namespace Vorn {
 
 // What nearly every line goes through. The conversions between bytes and code units work on plain text only and say so
-// of anything else, with the output undefined then; the caller has a general road.
+// of anything else, with the output undefined then; the caller has a slow path.
 
 namespace Ascii {
 

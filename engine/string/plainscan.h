@@ -9,7 +9,7 @@
 namespace Vorn {
 
 // Takes values straight from the bytes of a text file in exactly the form that they are written in, step by step like
-// Scanner. A step that meets any other form, valid or not, ends it, and the caller goes the general road with the whole
+// Scanner. A step that meets any other form, valid or not, ends it, and the caller takes the slow path with the whole
 // line; so nothing here has to tell good from bad. Needs kPlainSlack readable bytes behind the text, the first of them
 // 0. What it takes is always shorter than kLongestPlainLine.
 inline constexpr std::size_t kPlainSlack = 96;
@@ -21,7 +21,7 @@ public:
 
     const char* Cursor() const { return cursor; }
 
-    // Up to seven. Counted by branches, which are foreseen, where a computed count would hold up what stands behind.
+    // Up to seven. Counted by branches, which are foreseen, where a computed count would hold up what follows.
     VORN_ALWAYS_INLINE PlainScanner& Tabs() {
         for (const char* limit = cursor + 7; *cursor == '\t' && cursor != limit;) {
             ++cursor;

@@ -158,7 +158,7 @@ bool IsHuge(std::string_view text) {
     return point - first + power > 0;
 }
 
-// The general road: the library's exact conversion of the text as it stands.
+// The slow path: the library's exact conversion of the text as it stands.
 template <class Real>
 bool ScanReal(const char16_t*& cursor, Real& value) {
     const char16_t* p = SkipWhiteSpace(cursor);

@@ -6,7 +6,8 @@
 
 namespace Vorn {
 
-// Something that research allows or brings about. Some types need to be told what. The faction stays a plain name here.
+// Something that research allows or brings about. Some types have a field that says what. The faction stays a plain
+// name here.
 struct ResearchBoolModifierTable : Record {
     ResearchBoolModifierType modifierType = ResearchBoolModifierType::Invalid;
     ResearchPlanetType linkedPlanetType = ResearchPlanetType::Invalid;

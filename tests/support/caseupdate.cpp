@@ -24,7 +24,7 @@ std::vector<std::vector<int>> CommonLengths(const Lines& a, const Lines& b) {
     return lengths;
 }
 
-// Changes `lines` from `at` on: `dropped` of them become `added`. The changes are told in `result`.
+// Changes `lines` from `at` on: `dropped` of them become `added`. The changes are added to `result`.
 class Changes {
 public:
     explicit Changes(Lines _lines) : lines(std::move(_lines)) {}

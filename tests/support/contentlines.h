@@ -11,7 +11,7 @@ using Lines = std::vector<std::string>;
 
 // The first word of a line.
 std::string_view KeyOf(std::string_view line);
-// What stands behind the key and a blank.
+// What follows the key and a blank.
 std::string_view ValueOf(std::string_view line);
 // The number of tabs in front of the key.
 std::size_t DepthOf(std::string_view line);

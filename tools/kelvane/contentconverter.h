@@ -20,7 +20,7 @@ enum class ConversionResult {
 // converted before. Reports are dropped. Each thread needs its own.
 class ContentConverter {
 public:
-    // Converts the content of a file; of its name, what stands behind the folders names an entity definition.
+    // Converts the content of a file; of its name, what follows the folders names an entity definition.
     ConversionResult Convert(ContentKind kind, std::string_view fileName, std::string_view source,
                              FileArchiveType form);
 

@@ -29,7 +29,7 @@ public:
     // Whether something could not be written; all that follows is dropped.
     bool HasFailed() const { return failed; }
 
-    // The reason, told once; empty if all was written, or if nobody reads any more.
+    // The reason, given once; empty if all was written, or if nobody reads any more.
     std::string TakeProblem() { return std::exchange(problem, {}); }
 
 private:

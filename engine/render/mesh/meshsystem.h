@@ -6,7 +6,7 @@
 
 namespace Vorn {
 
-// Finds meshes, keeps one for each file and counts its holders. In mock mode, which only the game uses, every mesh is
+// Finds meshes, keeps one for each file and counts its holders. In mock mode every mesh is
 // made up and belongs to whoever gets it.
 class MeshSystem {
 public:

@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// How an entity attacks unless it is told otherwise.
+// How an entity attacks unless it is ordered otherwise.
 struct IAttackerDefinition : Record {
     AutoAttackRange defaultAutoAttackRange = AutoAttackRange::Invalid;
     Bool defaultAutoAttackOn;

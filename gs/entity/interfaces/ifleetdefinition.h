@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// How far the ships of a fleet stay together unless it is told otherwise.
+// How far the ships of a fleet stay together unless it is ordered otherwise.
 struct IFleetDefinition : Record {
     CohesionRange defaultCohesionRange = CohesionRange::Invalid;
 

@@ -7,7 +7,7 @@
 
 namespace Vorn {
 
-// Where on an entity an effect is attached; an ability has its own places, told by its index.
+// Where on an entity an effect is attached; an ability has its own places, chosen by its index.
 struct BuffEffectAttachInfo : Record {
     BuffEffectAttachType attachType = BuffEffectAttachType::Invalid;
     std::uint32_t abilityIndex = 0;

@@ -64,7 +64,7 @@ inline constexpr EnumTable kEnumTable<TitanUpgradePropertyType> = MakeTable("Tit
 enum class StarBaseUpgradeBoolPropertyType : std::int32_t { Invalid = -1 };
 enum class TitanUpgradeBoolPropertyType : std::int32_t { Invalid = -1 };
 
-// Two enumerations of the same rows, told apart in reports.
+// Two enumerations of the same rows, with different names in reports.
 inline constexpr std::u16string_view kUpgradeBoolPropertyTypeRows[] = {u"CanPreventEnemyColonize",
                                                                        u"CanPreventPlanetLossByBombing"};
 template <>

@@ -10,7 +10,7 @@ namespace {
 
 using Numbers = std::vector<std::int32_t>;
 
-// Reads "count" and as many "n" in both forms, and what stands behind them.
+// Reads "count" and as many "n" in both forms, and what follows them.
 class ListTest : public ArchiveTest {
 protected:
     template <class Transfer>

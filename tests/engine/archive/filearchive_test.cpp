@@ -171,7 +171,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     }
 }
 
-// Plain bytes take a quick road into a field and units of other encodings the general one; both must agree.
+// Plain bytes are read by a fast path and units of other encodings by the slow one; both must agree.
 TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -200,7 +200,7 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     }
 }
 
-// The quick road has an arithmetic of its own; the library tells what it must come to.
+// The fast path has an arithmetic of its own; the library gives what it must come to.
 TEST_F(FileArchiveTest, NumbersOfAllLengths) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);

@@ -114,7 +114,7 @@ protected:
     EntitySystem entities{core->fileArchiveSystem};
 };
 
-// An archive without a header is told the version of what it holds.
+// An archive without a header gets the version of what it holds.
 TEST_F(FurtherArchivesTest, SamplesThroughBitStreams) {
     ForEachSample([&](const Content& content, Content& back, const std::string& text) {
         BitStreamArchive written;

@@ -56,7 +56,7 @@ void SoundContent::AddLineMistakes(std::int32_t i, std::vector<Mistake>& mistake
     if (line.countLine >= 0) {
         at.push_back({line.countLine, false, lines[static_cast<std::size_t>(line.countLine)].key});
     }
-    // Which of a matrix' rows is missing or doubled cannot be told.
+    // Which of a matrix' rows is missing or doubled cannot be known.
     for (std::int32_t k = 1; k < 4 && isRow; ++k) {
         at.push_back({k, true, ""});
     }

@@ -177,7 +177,7 @@ void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data
             Add(reader, text, Code("index-out-of-range"), ask, IndexMessage(value, count));
         }
     };
-    // A list that lacks entries is told at its count.
+    // A list that lacks entries is reported at its count.
     const auto isFlawed = [&](std::size_t list) {
         return list < lists.size() && HasFinding(reader.GetFindings(), PathOf(asks, lists[list]));
     };

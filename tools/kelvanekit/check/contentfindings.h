@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// What can be told once a content is read: each adds to the findings that the reader noted.
+// What can be found once a content is read: each adds to the findings that the reader noted.
 
 // Values that a conversion to text would change, and what an old version loses or gains. Empties no content.
 void NoteChanges(const SourceText& text, TextReader& reader, LoadedContent& content);

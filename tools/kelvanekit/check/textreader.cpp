@@ -522,7 +522,7 @@ void TextReader::OnList(const ListShape& shape) {
     nextList = shape;
 }
 
-// How many entries a list is told to have, which is never more than there could be.
+// How many entries a list is said to have, which is never more than there could be.
 std::int32_t TextReader::CountOf(std::int32_t given, bool isRead) {
     OpenList list;
     list.ask = askCount - 1;

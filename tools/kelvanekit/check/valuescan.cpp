@@ -321,7 +321,7 @@ void ValueScan::Text(char16_t* buffer, int size) {
                  "a quote ends the text: what follows it is lost", "there is no way to write a quote inside a text");
         } else if (closing + 1 < text.size()) {
             Note(Code("text-after-quote"), text.substr(closing + 1),
-                 Quoted(Trimmed(text.substr(closing + 1))) + " stands behind the closing quote and is lost", {}, {});
+                 Quoted(Trimmed(text.substr(closing + 1))) + " follows the closing quote and is lost", {}, {});
         }
     }
     const std::u16string units = ToUnits(inside.substr(0, inside.find('\0')));
@@ -337,8 +337,7 @@ void ValueScan::Text(char16_t* buffer, int size) {
 
 void ValueScan::Nothing() {
     if (!text.empty()) {
-        Note(Code("unexpected-value"), text, Quoted(text) + " stands behind a key that begins a group, and is lost", {},
-             {});
+        Note(Code("unexpected-value"), text, Quoted(text) + " follows a key that begins a group, and is lost", {}, {});
     }
 }
 
@@ -368,7 +367,7 @@ void ValueScan::TakeList(std::span<Value> values, bool hasCommas, Take take) {
     }
     expect(']', "the closing bracket");
     if (rest = Trimmed(rest); !rest.empty()) {
-        Note(Code("number-with-rest"), rest, Quoted(rest) + " stands behind the numbers and is lost", {}, {});
+        Note(Code("number-with-rest"), rest, Quoted(rest) + " follows the numbers and is lost", {}, {});
     }
 }
 

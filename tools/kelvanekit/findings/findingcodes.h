@@ -106,7 +106,7 @@ Right:
     lamp "red"
     lamp "green"
 )"},
-    {"trailing-content", Severity::Error, R"(Something stands behind the last key.
+    {"trailing-content", Severity::Error, R"(Something follows the last key.
 It is left out by a conversion. Often a count above it is too low.
 
 Wrong:
@@ -115,7 +115,7 @@ Wrong:
 Right:
     lastKey 1
 )"},
-    {"unexpected-value", Severity::Error, R"(Something stands behind a key that begins a group of keys.
+    {"unexpected-value", Severity::Error, R"(Something follows a key that begins a group of keys.
 It is lost.
 
 Wrong:
@@ -146,7 +146,7 @@ The first line of a text file has TXT in it; a binary file begins with BIN. Chec
 the file is what its name says.
 )"},
     {"unknown-version", Severity::Error,
-     R"(The version of the file cannot be told, or is one whose content is lost in part.
+     R"(The version of the file cannot be read, or is one whose content is lost in part.
 Old files are read, and written in the current version. What has no place there any more
 is lost on the way: the message tells what. Add the line of the version if it is missing,
 or bring the file to the current version by hand.
@@ -163,7 +163,7 @@ It is read as if it were of the current one. Keys that came later are lost.
 )"},
     {"older-version", Severity::Note, R"(The file is of an earlier version than this program writes.
 It is read by the keys of its version and written in the current one. The help lists the
-keys that are new; a key that has no place any more is told at its own line.
+keys that are new; a key that has no place any more is reported at its own line.
 )"},
     {"wrong-type", Severity::Error, R"(The type that the file states is not the one that its keys belong to.
 The file is read by the keys of the stated type, and nearly all of it is lost.
@@ -232,7 +232,7 @@ Wrong:
 Right:
     title "the 'old' lamp"
 )"},
-    {"text-after-quote", Severity::Error, R"(Something stands behind the closing quote of a text.
+    {"text-after-quote", Severity::Error, R"(Something follows the closing quote of a text.
 It is lost.
 
 Wrong:

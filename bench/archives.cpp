@@ -4,6 +4,7 @@
 // times is what counts. `main` prints the ratios of one run at the end.
 
 #include "engine/archive/filearchivesystem.h"
+#include "engine/archive/record.h"
 #include "engine/core/core.h"
 #include "engine/file/filesystem.h"
 

@@ -35,7 +35,7 @@ std::set<std::int32_t> LinesWithFindings(const Findings& findings) {
 // The fields of a record, or of a list's entries, in order.
 std::vector<std::int32_t> ChildrenOf(const AskedFields& asks, std::int32_t parent) {
     std::vector<std::int32_t> children;
-    for (auto i = static_cast<std::size_t>(parent + 1); i < asks.size() && asks[i].parent >= parent; ++i) {
+    for (auto i = static_cast<std::size_t>(parent) + 1; i < asks.size() && asks[i].parent >= parent; ++i) {
         if (asks[i].parent == parent) {
             children.push_back(static_cast<std::int32_t>(i));
         }
@@ -45,7 +45,7 @@ std::vector<std::int32_t> ChildrenOf(const AskedFields& asks, std::int32_t paren
 
 std::vector<std::int32_t> EntriesOf(const AskedFields& asks, std::int32_t list) {
     std::vector<std::int32_t> entries;
-    for (auto i = static_cast<std::size_t>(list + 1); i < asks.size(); ++i) {
+    for (auto i = static_cast<std::size_t>(list) + 1; i < asks.size(); ++i) {
         if (asks[i].list == list) {
             entries.push_back(static_cast<std::int32_t>(i));
         }

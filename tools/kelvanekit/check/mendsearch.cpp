@@ -156,7 +156,7 @@ private:
         AddChildren(start, 0.0);
         for (int trials = 0; !queue.empty() && trials < kMostTrialsPerMistake && triedLines < mostTriedLines;
              ++trials) {
-            const TrialPtr trial = queue.top();
+            TrialPtr trial = queue.top();
             queue.pop();
             if (settled != nullptr && trial->weight > settled->weight) {
                 break;

@@ -53,7 +53,7 @@ std::string BracketBytes(std::string_view text) {
         }
     }
     if (numbers.size() == 4) {
-        for (const std::size_t i : {0, 1}) {
+        for (const std::size_t i : {std::size_t{0}, std::size_t{1}}) {
             numbers[i + 2] = std::to_string(std::stoll(numbers[i]) + std::stoll(numbers[i + 2]));
         }
     }

@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t kSettledAfter = 12;
 constexpr int kMostTrialsPerMistake = 400;
 // Lines that all trials together may pass, and how often those of a large file.
-constexpr std::int64_t kMostTriedLines = 5000000;
+constexpr std::int64_t kMostTriedLines = 800000;
 constexpr std::int64_t kMostReadings = 60;
 constexpr std::int32_t kFarthestLine = 48;
 constexpr std::size_t kRecentChoices = 6;

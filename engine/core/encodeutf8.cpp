@@ -34,11 +34,20 @@ std::uint32_t RemovePoint(std::u16string_view& text) {
 }
 
 char* EncodeUtf8(char* out, std::u16string_view text) {
-    while (!text.empty()) {
+    while (true) {
+        // Nearly all text is ASCII.
+        std::size_t plain = 0;
+        for (; plain < text.size() && text[plain] < 0x80; ++plain) {
+            out[plain] = static_cast<char>(text[plain]);
+        }
+        out += plain;
+        text.remove_prefix(plain);
+        if (text.empty()) {
+            return out;
+        }
         const std::uint32_t point = RemovePoint(text);
         out = EncodePoint(out, IsSurrogate(point) ? kReplacementUnit : point);
     }
-    return out;
 }
 
 } // namespace Vorn

@@ -104,22 +104,22 @@ private:
     void PutField(int width, const FormatArgument& argument) {
         const char16_t* start = cursor;
         PutArgument(u"%s", argument);
-        for (std::ptrdiff_t units = cursor - start; units < width; ++units) {
-            Put(u" ");
-        }
+        const std::ptrdiff_t missing = width - (cursor - start);
+        cursor = std::fill_n(cursor, Fitting(static_cast<std::size_t>(std::max<std::ptrdiff_t>(missing, 0))), u' ');
     }
 
     void PutNarrow(std::string_view text) {
-        for (const char byte : text) {
-            const auto unit = static_cast<char16_t>(static_cast<unsigned char>(byte));
-            Put({&unit, 1});
-        }
+        const auto widen = [](char byte) { return static_cast<char16_t>(static_cast<unsigned char>(byte)); };
+        cursor = std::transform(text.data(), text.data() + Fitting(text.size()), cursor, widen);
     }
 
-    void Put(std::u16string_view text) {
-        const std::size_t count = std::min(text.size(), static_cast<std::size_t>(limit - cursor));
-        cursor = std::copy_n(text.data(), count, cursor);
-        cut = cut || count < text.size();
+    void Put(std::u16string_view text) { cursor = std::copy_n(text.data(), Fitting(text.size()), cursor); }
+
+    // As many of `count` units as there is room for.
+    std::size_t Fitting(std::size_t count) {
+        const std::size_t fitting = std::min(count, static_cast<std::size_t>(limit - cursor));
+        cut = cut || fitting < count;
+        return fitting;
     }
 
     char16_t* cursor;

@@ -1,6 +1,7 @@
 #include "engine/core/reporting.h"
 
 #include "engine/core/debugoutput.h"
+
 #include <algorithm>
 #include <string>
 

@@ -4,11 +4,6 @@ add_library(vorn STATIC $<TARGET_OBJECTS:kelvane_engine> $<TARGET_OBJECTS:kelvan
 set_target_properties(vorn PROPERTIES LINKER_LANGUAGE CXX)
 target_compile_features(vorn INTERFACE cxx_std_20)
 target_include_directories(vorn SYSTEM INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_INTERPROCEDURAL_OPTIMIZATION)
-  # Usable without link-time optimisation too.
-  target_compile_options(kelvane_engine PRIVATE -ffat-lto-objects)
-  target_compile_options(kelvane_gs PRIVATE -ffat-lto-objects)
-endif()
 
 add_library(kelvane::vorn ALIAS vorn)
 foreach(program kelvane kelvane-kit)

@@ -42,6 +42,8 @@ int ParseAndRun(std::vector<std::string> arguments, OutputStream& output, Output
     CLI::App app("Checks and converts content files of the game.", kProgram);
     app.set_version_flag("--version", std::string(kProgram) + ' ' + kVersion, "Show the version");
     app.set_help_flag("-h,--help", "Show this help");
+    // Names of files may begin with a slash on Windows too.
+    app.allow_windows_style_options(false);
     app.get_formatter()->column_width(kOptionColumns);
     app.require_subcommand(1);
     CommandRun run;

@@ -1,4 +1,3 @@
-#include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/checkfiles.h"
 #include "tools/kelvanekit/command.h"
 #include "tools/kelvanekit/commandoptions.h"
@@ -42,19 +41,9 @@ int Explain(const std::string& name, OutputStream& output) {
     return kNothingFound;
 }
 
-void AddNameOptions(CLI::App& app, NameLists& lists) {
-    app.add_option("--root", lists.root, "Look up names of other contents among all below this folder")
-        ->type_name("FOLDER");
-    app.add_option("--sounds", lists.sounds, "Look up names of sounds in this file, one a line")->type_name("LIST");
-    app.add_option("--strings", lists.strings, "Look up ids of strings in this file, one a line")->type_name("LIST");
-}
-
 int Check(const CheckArguments& arguments, OutputStream& output, OutputStream& errors) {
     FindingReport report(arguments.report, output, errors);
-    const KnownNames names = LoadNames(arguments.lists, report);
-    const CheckOptions options = {arguments.lists.IsEmpty() ? nullptr : &names};
-    const auto checker = [&](ContentKind kind, std::string_view bytes) { return CheckContent(kind, bytes, options); };
-    return CheckFiles(arguments.sources, arguments.jobs, checker, report, errors);
+    return CheckFiles(arguments.sources, arguments.jobs, MakeChecker(arguments.lists, report), report, errors);
 }
 
 } // namespace

@@ -20,15 +20,6 @@ void MakeRepeatable(Option* option) {
     option->expected(1)->allow_extra_args(false)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
-template <class Rows>
-std::vector<std::string> NamesIn(const Rows& rows) {
-    std::vector<std::string> names;
-    for (const auto& row : rows) {
-        names.emplace_back(row.name);
-    }
-    return names;
-}
-
 std::string Joined(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names) {
@@ -37,7 +28,13 @@ std::string Joined(const std::vector<std::string>& names) {
     return text;
 }
 
-// An option with one of some names as its value.
+void AddStdinName(CLI::App& app, SourceOptions& options) {
+    app.add_option("--stdin-name", options.stdinName, "The name of what comes on standard input; its ending is a type")
+        ->type_name("NAME");
+}
+
+} // namespace
+
 void AddChoice(CLI::App& app, const char* option, const char* description, const std::vector<std::string>& names,
                const std::function<void(const std::string&)>& choose) {
     const auto check = [names](const std::string& name) {
@@ -51,18 +48,38 @@ void AddChoice(CLI::App& app, const char* option, const char* description, const
         ->type_name(Joined(names));
 }
 
-} // namespace
+void AddTypeOption(CLI::App& app, std::optional<ContentKind>& type, const char* description) {
+    std::vector<std::string> names;
+    for (const ContentKindRow& row : ContentKinds()) {
+        names.emplace_back(row.name);
+    }
+    AddChoice(app, "--type", description, names, [&](const std::string& name) { type = ContentKindNamed(name); });
+}
+
+void AddOneSourceOptions(CLI::App& app, SourceOptions& options) {
+    app.add_option("FILE", options.names, "A content file; - is standard input")
+        ->type_name("")
+        ->expected(1)
+        ->required();
+    AddTypeOption(app, options.type, "The type of the file, whatever its ending");
+    AddStdinName(app, options);
+}
 
 void AddSourceOptions(CLI::App& app, SourceOptions& options) {
     app.add_option("FILE|FOLDER", options.names, "Content files, and folders with such files; - is standard input")
         ->type_name("");
-    AddChoice(app, "--type", "The type of all files, whatever their ending", NamesIn(ContentKinds()),
-              [&](const std::string& name) { options.type = ContentKindNamed(name); });
+    AddTypeOption(app, options.type, "The type of all files, whatever their ending");
     MakeRepeatable(
         app.add_option("--exclude", options.excludes, "Leave out files and folders of this name; can be repeated")
             ->type_name("GLOB"));
-    app.add_option("--stdin-name", options.stdinName, "The name of what comes on standard input; its ending is a type")
-        ->type_name("NAME");
+    AddStdinName(app, options);
+}
+
+void AddNameOptions(CLI::App& app, NameLists& lists) {
+    app.add_option("--root", lists.root, "Look up names of other contents among all below this folder")
+        ->type_name("FOLDER");
+    app.add_option("--sounds", lists.sounds, "Look up names of sounds in this file, one a line")->type_name("LIST");
+    app.add_option("--strings", lists.strings, "Look up ids of strings in this file, one a line")->type_name("LIST");
 }
 
 void AddJobsOption(CLI::App& app, unsigned& jobs) {
@@ -74,8 +91,7 @@ void AddJobsOption(CLI::App& app, unsigned& jobs) {
 
 void AddReportOptions(CLI::App& app, ReportOptions& options) {
     options.form = &FindingForms().front();
-    AddChoice(app, "--format", "The form of the findings [pretty]", NamesIn(FindingForms()),
-              [&](const std::string& name) { options.form = FindForm(name); });
+    AddNamedOption(app, "--format", "The form of the findings [pretty]", FindingForms(), options.form);
     app.add_option("--max-findings", options.maxFindings, "Show so many findings and count the others")->type_name("N");
     app.add_flag("--warnings-as-errors", options.warningsAsErrors, "Report warnings as errors");
     const auto disable = [&](const std::vector<std::string>& names) {

@@ -1,4 +1,3 @@
-#include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/command.h"
 #include "tools/kelvanekit/commandoptions.h"
 #include "tools/kelvanekit/convertfiles.h"
@@ -12,6 +11,7 @@ namespace {
 struct ConvertArguments {
     ConvertOptions options;
     ReportOptions report;
+    NameLists lists;
 };
 
 void AddOutputOptions(CLI::App& app, ConvertOptions& options) {
@@ -36,6 +36,7 @@ CommandRun DeclareConvert(CLI::App& app) {
     const auto arguments = std::make_shared<ConvertArguments>();
     AddSourceOptions(app, arguments->options.sources);
     AddOutputOptions(app, arguments->options);
+    AddNameOptions(app, arguments->lists);
     AddReportOptions(app, arguments->report);
     AddJobsOption(app, arguments->options.jobs);
     return [arguments](OutputStream&, OutputStream& errors) {
@@ -43,10 +44,7 @@ CommandRun DeclareConvert(CLI::App& app) {
             throw CLI::RequiredError("FILE|FOLDER");
         }
         FindingReport report(arguments->report, errors, errors);
-        const ContentChecker checker = [](ContentKind kind, std::string_view bytes) {
-            return CheckContent(kind, bytes);
-        };
-        return ConvertFiles(arguments->options, checker, report, errors);
+        return ConvertFiles(arguments->options, MakeChecker(arguments->lists, report), report, errors);
     };
 }
 

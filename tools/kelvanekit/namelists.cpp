@@ -4,6 +4,8 @@
 #include "engine/file/nativefile.h"
 #include "engine/string/utf8.h"
 #include "engine/window/brushset.h"
+#include "tools/kelvanekit/check/contentcheck.h"
+#include "tools/kelvanekit/check/knownnames.h"
 #include "tools/kelvanekit/check/readscope.h"
 #include "tools/kelvanekit/inputfile.h"
 #include "tools/kelvanekit/linefinder.h"
@@ -111,14 +113,17 @@ void AddList(const std::string& fileName, NameKind kind, KnownNames& names, Find
 
 } // namespace
 
-KnownNames LoadNames(const NameLists& lists, FindingReport& report) {
-    KnownNames names;
+ContentChecker MakeChecker(const NameLists& lists, FindingReport& report) {
+    const auto names = std::make_shared<KnownNames>();
     if (!lists.root.empty()) {
-        AddRoot(lists.root, names, report);
+        AddRoot(lists.root, *names, report);
     }
-    AddList(lists.sounds, NameKind::Sound, names, report);
-    AddList(lists.strings, NameKind::StringId, names, report);
-    return names;
+    AddList(lists.sounds, NameKind::Sound, *names, report);
+    AddList(lists.strings, NameKind::StringId, *names, report);
+    const bool isEmpty = lists.IsEmpty();
+    return [names, isEmpty](ContentKind kind, std::string_view bytes) {
+        return CheckContent(kind, bytes, {isEmpty ? nullptr : names.get()});
+    };
 }
 
 } // namespace Vorn

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "tools/kelvanekit/check/knownnames.h"
-#include "tools/kelvanekit/findingreport.h"
+#include "tools/kelvanekit/checkfiles.h"
 
 namespace Vorn {
 
@@ -16,7 +15,7 @@ struct NameLists {
     bool IsEmpty() const { return root.empty() && sounds.empty() && strings.empty(); }
 };
 
-// All names of the lists. What cannot be read becomes a problem of the report.
-KnownNames LoadNames(const NameLists& lists, FindingReport& report);
+// Checks contents with the names of the lists. What cannot be read of these becomes a problem of the report.
+ContentChecker MakeChecker(const NameLists& lists, FindingReport& report);
 
 } // namespace Vorn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/archive/archivevalues.h"
 #include "engine/archive/fieldobserver.h"
 
 #include <string>
@@ -7,6 +8,7 @@
 
 namespace Vorn {
 
+// The kind of a field: those of single values as ArchiveValues lists them, then what has a value of another shape.
 enum class FieldKind : std::uint8_t {
     Color,
     Rectangle,
@@ -16,21 +18,40 @@ enum class FieldKind : std::uint8_t {
     Matrix44,
     Matrix33,
     Vector3,
-    Text,
     Int64,
     Bool,
     Double,
     Float,
     Int,
     Uint,
+    Text,
     Record,
     // A row of a matrix, which has no key.
     Row
 };
 
+namespace Detail {
+
+template <class Value, class... Values>
+constexpr FieldKind KindIn(ValueList<Values...>) {
+    int kind = 0;
+    static_cast<void>(((std::is_same_v<Value, Values> || (++kind, false)) || ...));
+    return static_cast<FieldKind>(kind);
+}
+
+} // namespace Detail
+
+template <class Value>
+inline constexpr FieldKind kKindOf = Detail::KindIn<Value>(ArchiveValues());
+
+static_assert(kKindOf<Color> == FieldKind::Color && kKindOf<std::uint32_t> == FieldKind::Uint);
+
 inline constexpr std::int32_t kNone = -1;
 
-// A field that a list of fields asked for, with the line that gave it. Places in a list of them are called asks.
+// Stands for the key of a matrix' row.
+inline constexpr Label kRowLabel = u"[";
+
+// A field that a list of fields asked for, with the place that gave it. Places in a list of them are called asks.
 struct AskedField {
     Label label;
     // The rows of a text that is an enumeration's.
@@ -40,8 +61,9 @@ struct AskedField {
     ListRule rule = ListRule::Growing;
     bool isCount = false;
     bool isDegrees = false;
-    // From 0; kNone if it is missing.
+    // The line from 0, or the first byte in a binary file; kNone if it is missing.
     std::int32_t line = kNone;
+    std::int64_t offset = kNone;
     // The ask of the record that it belongs to.
     std::int32_t parent = kNone;
     // How many records it stands in.
@@ -54,6 +76,10 @@ struct AskedField {
     std::int32_t capacity = 0;
     // The row of an enumeration, the number of entries that a list has.
     std::int32_t value = kNone;
+    // Its place among the values that are kept.
+    std::int32_t kept = kNone;
+
+    bool IsMissing() const { return line == kNone && offset == kNone; }
 };
 
 using AskedFields = std::vector<AskedField>;

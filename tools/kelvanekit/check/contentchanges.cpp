@@ -2,7 +2,7 @@
 
 #include "engine/archive/archiveversion.h"
 #include "engine/string/ascii.h"
-#include "tools/kelvanekit/check/writtentext.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
@@ -43,13 +43,12 @@ bool IsEmptyValue(std::string_view value) {
 // Compares the fields that were read with the lines that a conversion writes, key by key.
 class Comparison {
 public:
-    Comparison(const SourceText& _text, TextReader& _reader, std::string_view written, std::size_t firstAsk)
-        : text(_text), reader(_reader), asks(_reader.Asks()), lines(LinesOf(written)), ask(firstAsk) {
-        for (const Finding& finding : reader.GetFindings()) {
-            known.insert(finding.place.line - 1);
-            hasErrors =
-                hasErrors || (finding.code->severity == Severity::Error && finding.code != Code("index-out-of-range"));
-        }
+    Comparison(FieldReader& _reader, std::string_view written)
+        : reader(_reader), asks(_reader.Asks()), lines(LinesOf(written)), ask(_reader.HasVersion() ? 1 : 0),
+          known(SpotsOf(_reader.GetFindings())) {
+        hasErrors = std::ranges::any_of(reader.GetFindings(), [](const Finding& finding) {
+            return finding.code->severity == Severity::Error && finding.code != Code("index-out-of-range");
+        });
     }
 
     void Run() {
@@ -102,10 +101,10 @@ private:
     void Drop(std::size_t count) {
         for (; count > 0; --count, ++ask) {
             const AskedField& field = asks[ask];
-            const bool isNewName = reader.GetVersion() >= kArchiveVersion || field.line == kNone ||
+            const bool isNewName = reader.GetVersion() >= kArchiveVersion || field.IsMissing() ||
                                    (line < lines.size() && lines[line].value == ValueOf(field));
             if (!isNewName && !IsEmptyValue(ValueOf(field)) && field.kind != FieldKind::Record &&
-                known.insert(field.line).second && (line >= lines.size() || !IsReplaced())) {
+                known.insert(SpotOf(field)).second && (line >= lines.size() || !IsReplaced())) {
                 Add(Code("not-kept"), field,
                     "version " + std::to_string(kArchiveVersion) + " has no place for it: it is lost");
             }
@@ -126,14 +125,7 @@ private:
         }
     }
 
-    std::string_view ValueOf(const AskedField& field) const {
-        const std::string_view content = text.Line(field.line);
-        if (field.kind == FieldKind::Row) {
-            return Trimmed(content);
-        }
-        const std::string_view key = KeyOf(content);
-        return Trimmed(content.substr(static_cast<std::size_t>(key.data() - content.data()) + key.size()));
-    }
+    std::string_view ValueOf(const AskedField& field) const { return reader.ValueOf(field); }
 
     bool IsInList(const AskedField& field, ListRule rule) const {
         for (const AskedField* at = &field;; at = &asks[static_cast<std::size_t>(at->parent)]) {
@@ -148,11 +140,11 @@ private:
     }
 
     void Compare(const AskedField& field, const WrittenLine& written) {
-        if (field.line == kNone || field.kind == FieldKind::Record) {
+        if (field.IsMissing() || field.kind == FieldKind::Record) {
             return;
         }
         const std::string_view value = ValueOf(field);
-        if (IsSameValue(value, written.value) || known.contains(field.line) || IsInList(field, ListRule::Keyed)) {
+        if (IsSameValue(value, written.value) || known.contains(SpotOf(field)) || IsInList(field, ListRule::Keyed)) {
             return;
         }
         const std::string becomes = '`' + std::string(written.value) + '`';
@@ -164,7 +156,7 @@ private:
             }
             return;
         }
-        known.insert(field.line);
+        known.insert(SpotOf(field));
         if (IsRounding(field, value, written.value)) {
             Add(Code("lost-decimals"), field, "is kept as " + becomes, std::string(written.value));
         } else if (field.table != nullptr && !IsPair(ask + 1 < asks.size() ? ask + 1 : ask, NextLine())) {
@@ -178,7 +170,7 @@ private:
 
     bool HasFindingInList(std::int32_t list) const {
         return std::ranges::any_of(
-            asks, [&](const AskedField& field) { return field.list == list && known.contains(field.line); });
+            asks, [&](const AskedField& field) { return field.list == list && known.contains(SpotOf(field)); });
     }
 
     static bool IsRounding(const AskedField& field, std::string_view value, std::string_view written) {
@@ -190,39 +182,42 @@ private:
         return field.kind == FieldKind::Vector3 || field.kind == FieldKind::Quad || field.kind == FieldKind::Row;
     }
 
-    void Add(const FindingCode* code, const AskedField& field, std::string message, std::string replacement = {}) {
-        const std::string_view value = ValueOf(field);
-        const auto begin = static_cast<std::int32_t>(value.data() - text.Line(field.line).data());
-        Finding& finding = reader.GetFindings().emplace_back();
-        finding.code = code;
-        finding.place = {field.line + 1, begin, begin + static_cast<std::int32_t>(value.size())};
-        finding.key = PathOf(asks, static_cast<std::int32_t>(&field - asks.data()));
-        finding.message = value.empty() ? std::move(message) : '`' + std::string(value) + "` " + message;
+    void Add(const FindingCode* code, const AskedField& field, const std::string& message,
+             std::string replacement = {}) {
+        const std::string value(ValueOf(field));
+        Finding& finding = reader.Add(code, static_cast<std::int32_t>(&field - asks.data()),
+                                      value.empty() ? message : '`' + value + "` " + message);
         finding.hasReplacement = !replacement.empty();
         finding.replacement = std::move(replacement);
     }
 
-    const SourceText& text;
-    TextReader& reader;
+    FieldReader& reader;
     const AskedFields& asks;
     const std::vector<WrittenLine> lines;
     std::size_t ask;
     std::size_t line = 0;
-    std::set<std::int32_t> known;
+    std::set<std::int64_t> known;
     std::set<std::int32_t> staleLists;
     // Lists that are made of other data differ by mistakes in these.
     bool hasErrors = false;
 };
 
-void NoteVersion(const SourceText& text, TextReader& reader, bool hasVersion, const std::string& gained) {
+} // namespace
+
+std::string NoteChanges(FieldReader& reader, LoadedContent& content) {
+    const std::string written = WriteContent(content, FileArchiveType::Text);
+    Comparison comparison(reader, written);
+    comparison.Run();
+    return comparison.gained;
+}
+
+void NoteVersion(FieldReader& reader, const std::string& gained) {
     const std::int32_t version = reader.GetVersion();
-    const std::int32_t line = hasVersion && !reader.Asks().empty() ? reader.Asks()[0].line : 0;
-    if (version == kArchiveVersion || line == kNone) {
+    const bool hasVersion = reader.HasVersion();
+    if (version == kArchiveVersion || reader.Asks().empty() || reader.Asks()[0].IsMissing()) {
         return;
     }
-    Finding& finding = reader.GetFindings().emplace_back();
-    finding.place = {line + 1, 0, static_cast<std::int32_t>(text.Line(line).size())};
-    finding.key = hasVersion ? PathOf(reader.Asks(), 0) : "";
+    Finding& finding = reader.Add(Code("older-version"), 0, {});
     const std::string current = std::to_string(kArchiveVersion);
     if (version > kArchiveVersion) {
         finding.code = Code("newer-version");
@@ -230,20 +225,13 @@ void NoteVersion(const SourceText& text, TextReader& reader, bool hasVersion, co
                           ": the file is read like one of " + current;
         return;
     }
-    finding.code = Code("older-version");
+    if (!hasVersion) {
+        finding.place = {std::min(finding.place.line, 1), 0, 0, std::min<std::int64_t>(finding.place.offset, 0)};
+        finding.key.clear();
+    }
     finding.message = (hasVersion ? "the file is of version " + std::to_string(version) : "the file has no version") +
                       std::string(": it is written in version ") + current;
     finding.help = gained.empty() ? "" : "new keys: " + gained;
-}
-
-} // namespace
-
-void NoteChanges(const SourceText& text, TextReader& reader, LoadedContent& content) {
-    const std::string written = WriteAsText(content, static_cast<std::size_t>(text.End() - text.Start()));
-    const bool hasVersion = reader.HasVersion();
-    Comparison comparison(text, reader, written, hasVersion ? 1 : 0);
-    comparison.Run();
-    NoteVersion(text, reader, hasVersion, comparison.gained);
 }
 
 } // namespace Vorn

@@ -1,6 +1,7 @@
 #include "tools/kelvanekit/check/contentfindings.h"
 
 #include "tools/kelvanekit/check/failedcheck.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
@@ -11,26 +12,6 @@ namespace Vorn {
 namespace {
 
 constexpr std::int32_t kFarthestName = 300;
-
-Finding& Add(TextReader& reader, const SourceText& text, const FindingCode* code, std::int32_t ask,
-             std::string message) {
-    const AskedField& field = reader.Asks()[static_cast<std::size_t>(ask)];
-    const std::string_view content = text.Line(field.line);
-    Finding& finding = reader.GetFindings().emplace_back();
-    finding.code = code;
-    finding.place = {field.line + 1, IndentationOf(content), static_cast<std::int32_t>(content.size())};
-    finding.key = PathOf(reader.Asks(), ask);
-    finding.message = std::move(message);
-    return finding;
-}
-
-std::set<std::int32_t> LinesWithFindings(const Findings& findings) {
-    std::set<std::int32_t> lines;
-    for (const Finding& finding : findings) {
-        lines.insert(finding.place.line - 1);
-    }
-    return lines;
-}
 
 // The fields of a record, or of a list's entries, in order.
 std::vector<std::int32_t> ChildrenOf(const AskedFields& asks, std::int32_t parent) {
@@ -83,7 +64,7 @@ bool HasFinding(const Findings& findings, const std::string& path) {
     });
 }
 
-void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list) {
+void NoteKeyedList(FieldReader& reader, std::int32_t list) {
     const AskedFields& asks = reader.Asks();
     if (HasFinding(reader.GetFindings(), PathOf(asks, list))) {
         return;
@@ -92,17 +73,19 @@ void NoteKeyedList(const SourceText& text, TextReader& reader, std::int32_t list
     for (const std::int32_t entry : EntriesOf(asks, list)) {
         const std::int32_t ask = RowAskOf(asks, entry);
         const AskedField* field = ask == kNone ? nullptr : &asks[static_cast<std::size_t>(ask)];
-        if (field == nullptr || field->table == nullptr || field->line == kNone) {
+        if (field == nullptr || field->table == nullptr || field->IsMissing()) {
             continue;
         }
         if (field->value == kInvalidEnum && HasFinding(reader.GetFindings(), PathOf(asks, ask))) {
             continue;
         }
         if (field->value == kInvalidEnum) {
-            Add(reader, text, Code("not-kept"), ask, "an entry of the type `Invalid` is left out");
+            reader.Add(Code("not-kept"), ask, "an entry of the type `Invalid` is left out");
         } else if (!rows.insert(field->value).second) {
-            Add(reader, text, Code("duplicate-property"), ask,
-                '`' + ToUtf8(field->table->rows[field->value]) + "` stands in the list already: the last one is kept")
+            reader
+                .Add(Code("duplicate-property"), ask,
+                     '`' + ToUtf8(field->table->rows[field->value]) +
+                         "` stands in the list already: the last one is kept")
                 .help = "take one of them out";
         }
     }
@@ -114,7 +97,7 @@ bool HasDuplicate(const BrushSet& set) {
                                [&](const Brush& brush) { return !known.insert(brush.GetName().View()).second; });
 }
 
-void NoteDuplicateNames(const SourceText& text, TextReader& reader, const BrushSet& set) {
+void NoteDuplicateNames(FieldReader& reader, const BrushSet& set) {
     const AskedFields& asks = reader.Asks();
     const std::vector<std::int32_t> lists = OuterLists(asks);
     const std::vector<std::int32_t> entries = lists.empty() ? lists : EntriesOf(asks, lists[0]);
@@ -127,9 +110,9 @@ void NoteDuplicateNames(const SourceText& text, TextReader& reader, const BrushS
         const bool isNew = known.insert(brush.GetName().View()).second;
         const std::vector<std::int32_t> children =
             i < entries.size() && !isNew ? ChildrenOf(asks, entries[i]) : std::vector<std::int32_t>();
-        if (!children.empty() && asks[static_cast<std::size_t>(children[0])].line != kNone) {
-            Add(reader, text, Code("duplicate-name"), children[0],
-                "there is a `" + ToUtf8(brush.GetName().View()) + "` already");
+        if (!children.empty() && !asks[static_cast<std::size_t>(children[0])].IsMissing()) {
+            reader.Add(Code("duplicate-name"), children[0],
+                       "there is a `" + ToUtf8(brush.GetName().View()) + "` already");
         }
         ++i;
     }
@@ -163,18 +146,18 @@ std::string IndexMessage(std::uint32_t value, std::uint32_t count) {
 }
 
 // The lists of a mesh stand in the order materials, points, vertices, triangles and six of vertex indices.
-void NoteBadIndices(const SourceText& text, TextReader& reader, const Mesh::Data& mesh) {
+void NoteBadIndices(FieldReader& reader, const Mesh::Data& mesh) {
     constexpr std::size_t kTriangles = 3;
     const AskedFields& asks = reader.Asks();
     const std::vector<std::int32_t> lists = OuterLists(asks);
     const std::vector<std::int32_t> triangles = lists.size() > kTriangles && HasBadIndex(mesh)
                                                     ? EntriesOf(asks, lists[kTriangles])
                                                     : std::vector<std::int32_t>();
-    std::set<std::int32_t> known = LinesWithFindings(reader.GetFindings());
-    known.insert(kNone);
+    const std::set<std::int64_t> known = SpotsOf(reader.GetFindings());
     const auto add = [&](std::int32_t ask, std::uint32_t value, std::uint32_t count) {
-        if (!known.contains(asks[static_cast<std::size_t>(ask)].line)) {
-            Add(reader, text, Code("index-out-of-range"), ask, IndexMessage(value, count));
+        const AskedField& field = asks[static_cast<std::size_t>(ask)];
+        if (!field.IsMissing() && !known.contains(SpotOf(field))) {
+            reader.Add(Code("index-out-of-range"), ask, IndexMessage(value, count));
         }
     };
     // A list that lacks entries is reported at its count.
@@ -229,31 +212,43 @@ std::vector<std::int32_t> AsksOf(const AskedFields& asks, const FailedCheck& che
 
 } // namespace
 
+std::int64_t SpotOf(const AskedField& field) {
+    return field.line != kNone ? field.line : field.offset;
+}
+
+std::set<std::int64_t> SpotsOf(const Findings& findings) {
+    std::set<std::int64_t> spots;
+    for (const Finding& finding : findings) {
+        spots.insert(finding.place.line > 0 ? finding.place.line - 1 : finding.place.offset);
+    }
+    return spots;
+}
+
 bool HasSuspectRelations(const LoadedContent& content) {
     return (content.GetMesh() != nullptr && HasBadIndex(*content.GetMesh())) ||
            (content.GetBrushes() != nullptr && HasDuplicate(*content.GetBrushes()));
 }
 
-void NoteRelations(const SourceText& text, TextReader& reader, const LoadedContent& content) {
+void NoteRelations(FieldReader& reader, const LoadedContent& content) {
     const AskedFields& asks = reader.Asks();
     for (std::size_t i = 0; i < asks.size(); ++i) {
         if (asks[i].isCount && asks[i].rule == ListRule::Keyed) {
-            NoteKeyedList(text, reader, static_cast<std::int32_t>(i));
+            NoteKeyedList(reader, static_cast<std::int32_t>(i));
         }
     }
     if (content.GetBrushes() != nullptr) {
-        NoteDuplicateNames(text, reader, *content.GetBrushes());
+        NoteDuplicateNames(reader, *content.GetBrushes());
     }
     if (content.GetMesh() != nullptr) {
-        NoteBadIndices(text, reader, *content.GetMesh());
+        NoteBadIndices(reader, *content.GetMesh());
     }
 }
 
 // A check that speaks of fields with findings is taken for their consequence.
-void NoteFailedChecks(const SourceText& text, TextReader& reader) {
+void NoteFailedChecks(FieldReader& reader) {
     const AskedFields& asks = reader.Asks();
     for (const FailedCheck& check : reader.FailedChecks()) {
-        if (check.ask != kNone && asks[static_cast<std::size_t>(check.ask)].line == kNone) {
+        if (check.ask != kNone && asks[static_cast<std::size_t>(check.ask)].IsMissing()) {
             continue;
         }
         std::vector<std::int32_t> named = AsksOf(asks, check);
@@ -261,11 +256,11 @@ void NoteFailedChecks(const SourceText& text, TextReader& reader) {
             named.push_back(check.ask);
         }
         const bool isConsequence = std::ranges::any_of(named, [&](std::int32_t ask) {
-            return asks[static_cast<std::size_t>(ask)].line == kNone ||
+            return asks[static_cast<std::size_t>(ask)].IsMissing() ||
                    HasFinding(reader.GetFindings(), PathOf(asks, ask));
         });
         if (!named.empty() && !isConsequence) {
-            Add(reader, text, Code("unsuitable-value"), named[0], CheckMessage(check.expression));
+            reader.Add(Code("unsuitable-value"), named[0], CheckMessage(check.expression));
         }
     }
 }

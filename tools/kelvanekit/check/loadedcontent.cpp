@@ -4,58 +4,58 @@
 
 namespace Vorn {
 
-LoadedContent::LoadedContent(ContentKind _kind) : kind(_kind) {
+LoadedContent::LoadedContent(ContentKind kind) {
     textures.SetNameOnlyTextures(true);
     context.textures = &textures;
     context.races = &players.races;
     context.factions = &players.factions;
+    switch (kind) {
+    case ContentKind::Mesh:
+        mesh = std::make_unique<Mesh::Data>();
+        break;
+    case ContentKind::Particle:
+        particle = std::make_unique<ParticleSimulationDefinition>();
+        break;
+    case ContentKind::Brushes:
+        brushes = std::make_unique<BrushSet>(std::u16string_view());
+        break;
+    case ContentKind::Entity:
+        // Its type tells which one it is.
+        break;
+    }
 }
 
 void LoadedContent::Read(Archive& archive) {
     archive.SetContext(&context);
     FieldIo io(archive, FieldIo::Direction::Read);
-    switch (kind) {
-    case ContentKind::Mesh:
-        mesh = std::make_unique<Mesh::Data>();
-        io.Record(Mesh::Data::kLabel, *mesh);
-        break;
-    case ContentKind::Particle:
-        particle = std::make_unique<ParticleSimulationDefinition>();
-        io.Record(ParticleSimulationDefinition::kLabel, *particle);
-        break;
-    case ContentKind::Brushes:
-        brushes = std::make_unique<BrushSet>(std::u16string_view());
-        brushes->Fields(io);
-        break;
-    case ContentKind::Entity: {
-        EntityType type = EntityType::Invalid;
-        EntitySystem::TypeField(io, type);
-        entity = EntitySystem::CreateEntityDef(type, {});
-        if (entity != nullptr) {
-            entity->Fields(io);
-        }
-        break;
-    }
-    }
+    Fields(io);
 }
 
 void LoadedContent::Write(Archive& archive) {
     archive.SetContext(&context);
-    FieldIo io(archive, FieldIo::Direction::Write);
-    if (mesh != nullptr) {
-        io.Record(Mesh::Data::kLabel, *mesh);
-    }
     if (particle != nullptr) {
         particle->StripFilePaths();
+    }
+    FieldIo io(archive, FieldIo::Direction::Write);
+    Fields(io);
+}
+
+void LoadedContent::Fields(FieldIo& io) {
+    if (mesh != nullptr) {
+        io.Record(Mesh::Data::kLabel, *mesh);
+    } else if (particle != nullptr) {
         io.Record(ParticleSimulationDefinition::kLabel, *particle);
-    }
-    if (brushes != nullptr) {
+    } else if (brushes != nullptr) {
         brushes->Fields(io);
-    }
-    if (entity != nullptr) {
-        EntityType type = entity->GetEntityType();
+    } else {
+        EntityType type = entity != nullptr ? entity->GetEntityType() : EntityType::Invalid;
         EntitySystem::TypeField(io, type);
-        entity->Fields(io);
+        if (io.Reading()) {
+            entity = EntitySystem::CreateEntityDef(type, {});
+        }
+        if (entity != nullptr) {
+            entity->Fields(io);
+        }
     }
 }
 

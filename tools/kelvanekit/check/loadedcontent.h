@@ -17,7 +17,7 @@ namespace Vorn {
 // written as a conversion would.
 class LoadedContent {
 public:
-    explicit LoadedContent(ContentKind _kind);
+    explicit LoadedContent(ContentKind kind);
 
     // Reads all behind header and version.
     void Read(Archive& archive);
@@ -30,7 +30,8 @@ public:
     const BrushSet* GetBrushes() const { return brushes.get(); }
 
 private:
-    ContentKind kind;
+    void Fields(FieldIo& io);
+
     // Outlive the brushes.
     TextureSystem textures;
     PlayerSystem players;

@@ -45,8 +45,6 @@ struct OpenList {
     std::int32_t count = 0;
     std::int32_t entries = 0;
     ListShape shape{};
-    // The line of the count.
-    std::int32_t line = kNone;
     // Where the last entry began.
     std::int32_t entryAsk = kNone;
     // How many records it stands in.

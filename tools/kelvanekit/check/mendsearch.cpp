@@ -1,6 +1,5 @@
 #include "tools/kelvanekit/check/mendsearch.h"
 
-#include "engine/string/ascii.h"
 #include "tools/kelvanekit/findings/nearest.h"
 
 #include <algorithm>
@@ -61,10 +60,6 @@ struct IsHeavier {
 };
 
 using Queue = std::priority_queue<TrialPtr, std::vector<TrialPtr>, IsHeavier>;
-
-bool IsLabel(std::string_view key, Label label) {
-    return key.size() == label.size() && Ascii::EqualsEach(key.data(), label);
-}
 
 bool IsLike(std::string_view key, Label label) {
     const std::u16string units = ToUnits(key);

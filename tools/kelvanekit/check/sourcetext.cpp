@@ -1,5 +1,6 @@
 #include "tools/kelvanekit/check/sourcetext.h"
 
+#include "engine/string/ascii.h"
 #include "engine/string/plainscan.h"
 #include "engine/string/scan.h"
 #include "engine/string/utf8.h"
@@ -111,6 +112,18 @@ std::string_view Trimmed(std::string_view text) {
     }
     text.remove_prefix(static_cast<std::size_t>(IndentationOf(text)));
     return text;
+}
+
+bool IsLabel(std::string_view key, std::u16string_view label) {
+    return key.size() == label.size() && Ascii::EqualsEach(key.data(), label);
+}
+
+std::string Quoted(std::string_view text) {
+    return '`' + std::string(text) + '`';
+}
+
+std::string Quoted(std::u16string_view text) {
+    return Quoted(ToUtf8(text));
 }
 
 std::u16string ToUnits(std::string_view utf8) {

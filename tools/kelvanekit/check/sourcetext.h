@@ -52,6 +52,13 @@ std::string_view KeyOf(std::string_view line);
 // A text without the white space at its ends.
 std::string_view Trimmed(std::string_view text);
 
+// Whether a key in UTF-8 is that of a field.
+bool IsLabel(std::string_view key, std::u16string_view label);
+
+// A text as messages show it.
+std::string Quoted(std::string_view text);
+std::string Quoted(std::u16string_view text);
+
 std::u16string ToUnits(std::string_view utf8);
 std::string ToUtf8(std::u16string_view units);
 

@@ -27,10 +27,6 @@ std::string Lowered(std::string_view text) {
     return result;
 }
 
-std::string Quoted(std::string_view text) {
-    return '`' + std::string(text) + '`';
-}
-
 std::size_t DigitsAt(std::string_view text, std::size_t place) {
     std::size_t count = 0;
     while (place + count < text.size() && IsDigit(text[place + count])) {

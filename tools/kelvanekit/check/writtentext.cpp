@@ -1,8 +1,10 @@
 #include "tools/kelvanekit/check/writtentext.h"
 
+#include "engine/archive/binaryfilearchive.h"
 #include "engine/archive/textfilearchive.h"
-#include "engine/file/filesystem.h"
+#include "engine/string/utf8.h"
 #include "tools/kelvanekit/check/readscope.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/check/valuescan.h"
 
 #include <algorithm>
@@ -10,6 +12,8 @@
 namespace Vorn {
 
 namespace {
+
+constexpr std::size_t kMarkSize = 3;
 
 class StringStream final : public ByteStream {
 public:
@@ -26,21 +30,6 @@ private:
     std::string& bytes;
 };
 
-// A store with one file, which can be written.
-class StringStore final : public FileStore {
-public:
-    explicit StringStore(std::string& _bytes) : bytes(_bytes) {}
-
-    std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override {
-        return std::make_unique<StringStream>(bytes);
-    }
-    bool Exists(std::u16string_view) const override { return true; }
-
-private:
-    std::string& bytes;
-};
-
-// The checks of records while they are written repeat those of reading.
 class DroppedReports final : public ReportHandler {
 public:
     void Handle(const char*, int, std::u16string_view, bool) override {}
@@ -83,20 +72,59 @@ std::string_view TakeTextLine(std::string_view& text) {
 
 } // namespace
 
-std::string WriteAsText(LoadedContent& content, std::size_t expectedSize) {
-    constexpr std::size_t kMarkSize = 3;
-    std::string written;
-    written.reserve(expectedSize + expectedSize / 8 + kMarkSize);
-    StringStore store(written);
+std::unique_ptr<ByteStream> WrittenFile::Store::Open(std::u16string_view, FileAccess) {
+    return std::make_unique<StringStream>(bytes);
+}
+
+WrittenFile::WrittenFile(FileArchiveType form, std::size_t expectedSize) {
+    bytes.reserve(expectedSize + expectedSize / 8 + kMarkSize);
+    if (form == FileArchiveType::Text) {
+        file = files.Open(u"written", FileAccess::Write, FileTranslation::Text);
+        archive = std::make_unique<TextFileArchive>(file, false);
+    } else {
+        file = files.Open(u"written", FileAccess::Write, FileTranslation::Binary);
+        archive = std::make_unique<BinaryFileArchive>(file, false);
+    }
+}
+
+WrittenFile::~WrittenFile() {
+    Finish();
+}
+
+const std::string& WrittenFile::Finish() {
+    if (file != nullptr) {
+        const bool hasMark = file->GetTranslation() == FileTranslation::Text;
+        files.Close(std::exchange(file, nullptr));
+        bytes.erase(0, hasMark ? kMarkSize : 0);
+    }
+    return bytes;
+}
+
+// A line feed would begin another line, and the unit 0 end the text.
+std::int32_t KeptValues::KeepText(std::u16string_view text) {
+    std::u16string line(text);
+    std::ranges::replace(line, u'\n', kReplacementUnit);
+    written.GetArchive().Write({}, line.c_str(), static_cast<int>(line.size()) + 1);
+    return count++;
+}
+
+std::string_view KeptValues::At(std::int32_t number) {
+    if (lines.empty()) {
+        std::string_view rest = written.Finish();
+        while (!rest.empty()) {
+            lines.push_back(TakeTextLine(rest));
+        }
+    }
+    return number < 0 ? std::string_view() : lines[static_cast<std::size_t>(number)];
+}
+
+std::string WriteContent(LoadedContent& content, FileArchiveType form, std::size_t expectedSize) {
+    WrittenFile written(form, expectedSize);
+    // The checks of records while they are written repeat those of reading.
     DroppedReports reports;
     const HandlerScope scope(&reports);
-    FileSystem files(store);
-    File* file = files.Open(u"written", FileAccess::Write, FileTranslation::Text);
-    TextFileArchive archive(file, false);
-    content.Write(archive);
-    files.Close(file);
-    written.erase(0, kMarkSize);
-    return written;
+    content.Write(written.GetArchive());
+    return written.Finish();
 }
 
 bool IsSameValue(std::string_view left, std::string_view right) {

@@ -11,8 +11,8 @@ namespace Vorn {
 namespace {
 
 struct DiffArguments {
-    SourceOptions before;
-    SourceOptions after;
+    std::string before;
+    std::string after;
     std::optional<ContentKind> type;
 };
 
@@ -27,18 +27,19 @@ void Warn(const ContentFile& content, OutputStream& errors) {
     }
 }
 
-int Diff(DiffArguments arguments, OutputStream& output, OutputStream& errors) {
+int Diff(const DiffArguments& arguments, OutputStream& output, OutputStream& errors) {
     // A file that one of the two sides lacks has no name that tells its type.
-    const std::optional<ContentKind> named = ContentKindOfFile(arguments.before.names[0]);
+    const std::optional<ContentKind> named = ContentKindOfFile(arguments.before);
     const std::optional<ContentKind> type = arguments.type ? arguments.type
                                             : named        ? named
-                                                           : ContentKindOfFile(arguments.after.names[0]);
+                                                           : ContentKindOfFile(arguments.after);
     ContentFile before;
     ContentFile after;
-    for (const auto& [content, options] :
-         {std::pair(&before, &arguments.before), std::pair(&after, &arguments.after)}) {
-        options->type = type;
-        if (const std::string problem = content->Open(*options); !problem.empty()) {
+    for (const auto& [content, name] : {std::pair(&before, &arguments.before), std::pair(&after, &arguments.after)}) {
+        SourceOptions options;
+        options.names = {*name};
+        options.type = type;
+        if (const std::string problem = content->Open(options); !problem.empty()) {
             std::string text = "kelvane-kit: ";
             AppendVisible(text, problem);
             errors.Write(text + '\n');
@@ -71,11 +72,10 @@ int Diff(DiffArguments arguments, OutputStream& output, OutputStream& errors) {
 
 CommandRun DeclareDiff(CLI::App& app) {
     const auto arguments = std::make_shared<DiffArguments>();
-    app.add_option("BEFORE", arguments->before.names, "A content file of either form, or an empty file")
+    app.add_option("BEFORE", arguments->before, "A content file of either form, or an empty file")
         ->type_name("")
-        ->expected(1)
         ->required();
-    app.add_option("AFTER", arguments->after.names, "The file that it became")->type_name("")->expected(1)->required();
+    app.add_option("AFTER", arguments->after, "The file that it became")->type_name("")->required();
     AddTypeOption(app, arguments->type, "The type of both files, whatever their ending");
     return [arguments](OutputStream& output, OutputStream& errors) { return Diff(*arguments, output, errors); };
 }

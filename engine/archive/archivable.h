@@ -25,6 +25,9 @@ public:
 
     virtual NameKind GetNameKind() const { return NameKind::None; }
 
+    // Which classes of things of that kind the name may be of, one bit for each row of their table; 0 for any.
+    virtual std::uint64_t GetNameClasses() const { return 0; }
+
     virtual void Read(Label label, Archive& archive) = 0;
     virtual void Write(Label label, Archive& archive) const = 0;
 };

@@ -39,8 +39,8 @@ constexpr std::array<std::u16string_view, N> TextsOf(const Row (&rows)[N]) {
 }
 
 // The same of an enumeration with named values: does not compile unless each row is that of its value, up to `last`.
-template <auto last, std::size_t N>
-consteval std::array<std::u16string_view, N> TextsInOrder(const EnumRow<decltype(last)> (&rows)[N]) {
+template <auto last, class Row, std::size_t N>
+consteval std::array<std::u16string_view, N> TextsInOrder(const Row (&rows)[N]) {
     static_assert(static_cast<std::size_t>(last) + 1 == N, "one row for each value");
     for (std::size_t i = 0; i < N; ++i) {
         if (static_cast<std::size_t>(rows[i].value) != i) {

@@ -1,12 +1,10 @@
 #pragma once
 
 #include "engine/archive/record.h"
+#include "gs/entity/entitytype.h"
 #include "gs/entity/support/entitydefname.h"
 
 namespace Vorn {
-
-// The types of entity definitions; the numbers are the rows of the factory table in entitytypes.cpp.
-enum class EntityType : std::int32_t { Invalid = -1 };
 
 // A definition of a kind of thing in the game. Name and type are not among its fields: the name is that of the file,
 // and the type stands in front of what the definition writes. Definitions are large and live on the heap alone.

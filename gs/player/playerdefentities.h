@@ -35,8 +35,8 @@ struct PlayerDefEntities : Record {
     Pages<1> titanInfo;
     Pages<1> capitalShipInfo;
     FrigateInfo frigateInfo;
-    EntityDefNameDynamicVector researchInfo;
-    EntityDefNameDynamicVector starBaseInfo;
+    EntityDefNameDynamicVector<EntityType::ResearchSubject> researchInfo;
+    EntityDefNameDynamicVector<EntityType::StarBase> starBaseInfo;
     EntityDefName flagship;
 
     void Fields(FieldIo& io) override;

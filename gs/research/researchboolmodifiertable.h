@@ -14,8 +14,8 @@ struct ResearchBoolModifierTable : Record {
     AllianceType allianceType = AllianceType::Invalid;
     EntityDefName pactUnlockEntityDefName;
     FixedString<256> factionNameID;
-    EntityDefName researchUnlockDefName;
-    EntityDefName buffToApply;
+    EntityDefNameOf<EntityType::ResearchSubject> researchUnlockDefName;
+    EntityDefNameOf<EntityType::Buff> buffToApply;
 
     void Fields(FieldIo& io) override;
 

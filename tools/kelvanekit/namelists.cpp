@@ -1,9 +1,11 @@
 #include "tools/kelvanekit/namelists.h"
 
+#include "engine/archive/filearchivesystem.h"
 #include "engine/core/core.h"
 #include "engine/file/nativefile.h"
 #include "engine/string/utf8.h"
 #include "engine/window/brushset.h"
+#include "gs/entity/entitysystem.h"
 #include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/check/knownnames.h"
 #include "tools/kelvanekit/check/readscope.h"
@@ -36,12 +38,37 @@ public:
     void Handle(const char*, int, std::u16string_view, bool) override {}
 };
 
-// What is wrong with a brush file is for its own check to say.
-void AddBrushes(const std::string& fileName, KnownNames& names) {
+// What is wrong with a file is for its own check to say.
+template <class Action>
+void Quietly(Action action) {
     DroppedReports dropped;
     const HandlerScope scope(&dropped);
     const CatchableEnd end;
     try {
+        action();
+    } catch (const AbnormalEnd&) {
+        // What was found up to there counts.
+    }
+}
+
+// The class of an entity definition, as the set of it alone; all where the file does not tell.
+std::uint64_t EntityClassOf(const std::string& fileName) {
+    EntityType type = EntityType::Invalid;
+    Quietly([&] {
+        OneFile file(fileName);
+        Core core(file);
+        FileArchiveSystem& archives = core.fileArchiveSystem;
+        const ScopedArchive archive(archives, archives.OpenForRead(u"entity", false));
+        if (archive) {
+            FieldIo io(*archive, FieldIo::Direction::Read);
+            EntitySystem::TypeField(io, type);
+        }
+    });
+    return type == EntityType::Invalid ? KnownNames::kAnyClass : std::uint64_t{1} << static_cast<int>(type);
+}
+
+void AddBrushes(const std::string& fileName, KnownNames& names) {
+    Quietly([&] {
         OneFile file(fileName);
         Core core(file);
         core.textureSystem.SetNameOnlyTextures(true);
@@ -51,8 +78,7 @@ void AddBrushes(const std::string& fileName, KnownNames& names) {
             names.Add(NameKind::Brush, std::u16string(brush.GetName().View()));
         }
         brushes.ReleaseTextures();
-    } catch (const AbnormalEnd&) {
-    }
+    });
 }
 
 NameKind NameKindOf(ContentKind kind) {
@@ -87,8 +113,10 @@ void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) 
         }
         // A name stands with or without the ending of its file.
         const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
-        names.Add(NameKindOf(file.kind), name.substr(0, name.rfind(u'.')));
-        names.Add(NameKindOf(file.kind), name);
+        const std::uint64_t classes =
+            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
+        names.Add(NameKindOf(file.kind), name.substr(0, name.rfind(u'.')), classes);
+        names.Add(NameKindOf(file.kind), name, classes);
     }
 }
 

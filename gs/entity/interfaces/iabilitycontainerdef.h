@@ -10,7 +10,7 @@ namespace Vorn {
 struct IAbilityContainerDef : Record {
     static constexpr int kSlotCount = 5;
 
-    FixedArray<EntityDefName, kSlotCount> abilities;
+    FixedArray<EntityDefNameOf<EntityType::Ability>, kSlotCount> abilities;
 
     void Fields(FieldIo& io) override;
 };

@@ -25,8 +25,8 @@ struct IAbilityDef : Record {
 
     LevelSourceType levelSourceType = LevelSourceType::Invalid;
     BuffLevelFloatTable minExperienceLevelRequired;
-    EntityDefName baseSourceResearchSubject;
-    EntityDefName improveSourceResearchSubject;
+    EntityDefNameOf<EntityType::ResearchSubject> baseSourceResearchSubject;
+    EntityDefNameOf<EntityType::ResearchSubject> improveSourceResearchSubject;
     ResearchFloatModifierType sourceResearchFloatModifierType = ResearchFloatModifierType::Invalid;
     StarBaseUpgradePropertyType sourceStarBaseProperty = StarBaseUpgradePropertyType::Invalid;
     TitanUpgradePropertyType sourceTitanProperty = TitanUpgradePropertyType::Invalid;
@@ -34,7 +34,7 @@ struct IAbilityDef : Record {
     AIUseTime aiUseTime = AIUseTime::Invalid;
     BuffLevelFloatTable onlyAutoCastWhenTotalHullDamageExceedsAmount;
     BuffLevelFloatTable onlyAutoCastWhenTargetCountExceedsAmount;
-    EntityDefName useTimeBuffType;
+    EntityDefNameOf<EntityType::Buff> useTimeBuffType;
     WeaponBank onlyAutoCastWhenTargetsInBank = WeaponBank::Invalid;
     float thresholdDistance = 0.0f;
     float onlyAutoCastWhenDebrisWithinRange = 0.0f;
@@ -43,7 +43,7 @@ struct IAbilityDef : Record {
     BuffLevelFloatTable onlyAutoCastWhenTargetHullDamageExceedsAmount;
     BuffLevelFloatTable onlyAutoCastWhenTargetShieldDamageExceedsAmount;
     BuffLevelFloatTable onlyAutoCastWhenTargetAntimatterExceedsAmount;
-    EntityDefName targetBuffType;
+    EntityDefNameOf<EntityType::Buff> targetBuffType;
 
     Bool isAutoCastAvailable;
     Bool isAutoCastOnByDefault;

@@ -54,8 +54,8 @@ struct IPlanetDefinition : Record {
     Bool isColonizable = true;
     ResearchPlanetType planetTypeForResearch = ResearchPlanetType::Invalid;
     FixedVector<SkyboxScalars, 10> skyboxScalars;
-    DynamicVector<EntityDefName> requiredPlanetBonuses;
-    DynamicVector<EntityDefName> possibleRandomPlanetBonuses;
+    DynamicVector<EntityDefNameOf<EntityType::PlanetBonus>> requiredPlanetBonuses;
+    DynamicVector<EntityDefNameOf<EntityType::PlanetBonus>> possibleRandomPlanetBonuses;
     SoundID ambienceSoundID;
     Bool renderAsVolcanic;
     PlanetRuinDefinition planetRuinDef;

@@ -12,7 +12,7 @@ struct ISquadContainerDef : Record {
     static constexpr int kSlotCount = 4;
 
     struct Slot {
-        EntityDefName squadTypeEntityDef;
+        EntityDefNameOf<EntityType::Squad> squadTypeEntityDef;
         float squadAntiMatterCost = 0.0f;
     };
 

@@ -16,8 +16,8 @@ inline constexpr EnumTable kEnumTable<SquadRole> = MakeTable("SquadRole", kSquad
 
 // The fighters of a squad, how many and how fast they are built. Times are in seconds.
 struct ISquadDefinition : Record {
-    EntityDefName fighterEntityDef;
-    EntityDefName fighterIllusionEntityDef;
+    EntityDefNameOf<EntityType::Fighter> fighterEntityDef;
+    EntityDefNameOf<EntityType::Fighter> fighterIllusionEntityDef;
     float scuttleTime = 0.0f;
     float fighterConstructionTime = 0.0f;
     float decayWithoutOwnerRate = 0.0f;

@@ -14,9 +14,9 @@ struct IStarBaseDef : Record {
     FixedString<256> nameStringID;
     BrushRef picture;
     PlayerEntityCountType statCountType = PlayerEntityCountType::Invalid;
-    EntityDefName creationSourceAbility;
+    EntityDefNameOf<EntityType::Ability> creationSourceAbility;
     std::uint32_t maxUpgradeLevelCount = 0;
-    FixedVector<EntityDefName, 9> upgradeTypes;
+    FixedVector<EntityDefNameOf<EntityType::StarBaseUpgrade>, 9> upgradeTypes;
 
     void Fields(FieldIo& io) override;
 };

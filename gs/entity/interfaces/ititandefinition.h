@@ -8,7 +8,7 @@ namespace Vorn {
 // What makes a large ship a titan: the upgrades that it can have, of which a file may hold 8.
 struct ITitanDefinition : ILargeShipDefinition {
     PlayerEntityCountType statCountType = PlayerEntityCountType::Invalid;
-    FixedVector<EntityDefName, 8> upgradeTypes;
+    FixedVector<EntityDefNameOf<EntityType::TitanUpgrade>, 8> upgradeTypes;
 
     void Fields(FieldIo& io) override;
 };

@@ -12,7 +12,7 @@ enum class InstantActionConditionType : std::int32_t { Invalid = -1 };
 // What must hold for an action whose trigger is a condition. The type selects the fields that follow it.
 struct BuffActionCondition : Record {
     InstantActionConditionType instantActionConditionType = InstantActionConditionType::Invalid;
-    EntityDefName conditionBuffType;
+    EntityDefNameOf<EntityType::Buff> conditionBuffType;
     FixedString<256> conditionBuffShortName;
     BuffLevelFloatTable hullPerc;
     BuffLevelFloatTable hullAmount;

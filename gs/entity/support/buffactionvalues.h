@@ -34,18 +34,18 @@ inline constexpr EnumTable kEnumTable<HyperspaceSpawnType> = MakeTable("Hyperspa
 // The values of an instant action, of which each type has a few. They are named after their fields. The angle
 // `angleOffset` is in radians here and in degrees in every file.
 struct BuffActionValues {
-    EntityDefName buffType;
-    EntityDefName entryVehicleType;
-    EntityDefName afterColonizeBuffType;
-    EntityDefName afterRuinBuffType;
-    EntityDefName spaceMineType;
-    EntityDefName frigateType;
-    EntityDefName postSpawnBuff;
+    EntityDefNameOf<EntityType::Buff> buffType;
+    EntityDefNameOf<EntityType::EntryVehicle> entryVehicleType;
+    EntityDefNameOf<EntityType::Buff> afterColonizeBuffType;
+    EntityDefNameOf<EntityType::Buff> afterRuinBuffType;
+    EntityDefNameOf<EntityType::SpaceMine> spaceMineType;
+    EntityDefNameOf<EntityType::Frigate> frigateType;
+    EntityDefNameOf<EntityType::Buff> postSpawnBuff;
     EntityDefName planetModuleType;
-    EntityDefName squadType;
-    EntityDefName starBaseType;
-    EntityDefName cannonShellType;
-    EntityDefName buffTypeToRemove;
+    EntityDefNameOf<EntityType::Squad> squadType;
+    EntityDefNameOf<EntityType::StarBase> starBaseType;
+    EntityDefNameOf<EntityType::CannonShell> cannonShellType;
+    EntityDefNameOf<EntityType::Buff> buffTypeToRemove;
 
     TargetFilter targetFilter;
 

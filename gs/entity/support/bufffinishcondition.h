@@ -18,7 +18,7 @@ struct BuffFinishCondition : Record {
         BuffLevelFloatTable damageNeeded;
         DamageAffectType typeOfDamageNeeded = DamageAffectType::Invalid;
         BuffLevelFloatTable fightersKilled;
-        EntityDefName buffTypeToQuery;
+        EntityDefNameOf<EntityType::Buff> buffTypeToQuery;
         BuffLevelFloatTable hullPercent;
         ResearchPrerequisites researchPrerequisites;
     };

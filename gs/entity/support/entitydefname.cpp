@@ -14,8 +14,4 @@ void EntityDefName::Write(Label label, Archive& archive) const {
     archive.Write(label, text.Units(), kCapacity);
 }
 
-void EntityDefNameDynamicVector::Fields(FieldIo& io) {
-    io.GrowingList(u"count", names, io.Values(u"entityDefName"));
-}
-
 } // namespace Vorn

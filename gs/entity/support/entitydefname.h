@@ -4,6 +4,7 @@
 #include "engine/archive/record.h"
 #include "engine/datastructures/dynamicvector.h"
 #include "engine/datastructures/fixedvector.h"
+#include "gs/entity/entitytype.h"
 
 namespace Vorn {
 
@@ -29,15 +30,25 @@ private:
     std::int32_t index = kUnresolved;
 };
 
+// The reference to a definition of one of some types.
+template <EntityType... types>
+class EntityDefNameOf : public EntityDefName {
+public:
+    std::uint64_t GetNameClasses() const override { return (... | (std::uint64_t{1} << static_cast<int>(types))); }
+};
+
 // A list of names without a limit.
+template <EntityType... types>
 class EntityDefNameDynamicVector : public Record {
 public:
-    void Fields(FieldIo& io) override;
+    using Name = EntityDefNameOf<types...>;
 
-    const DynamicVector<EntityDefName>& GetNames() const { return names; }
+    void Fields(FieldIo& io) override { io.GrowingList(u"count", names, io.Values(u"entityDefName")); }
+
+    const DynamicVector<Name>& GetNames() const { return names; }
 
 private:
-    DynamicVector<EntityDefName> names;
+    DynamicVector<Name> names;
 };
 
 // A list of at most N names; a surplus only fires the vector's check.

@@ -10,7 +10,7 @@ namespace Vorn {
 
 // What is left of a planet that was stripped to the core, and what the stripping brings.
 struct PlanetRuinDefinition : Record {
-    EntityDefName ruinPlanetType;
+    EntityDefNameOf<EntityType::Planet> ruinPlanetType;
     BuffEffectAttachType attachType = BuffEffectAttachType::Invalid;
     ParticleSimulationDefinitionRef effectName;
     float startTime = 0.0f;

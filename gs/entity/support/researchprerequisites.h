@@ -8,7 +8,7 @@ namespace Vorn {
 
 // A level that a research subject must have reached.
 struct ResearchPrerequisite : Record {
-    EntityDefName subject;
+    EntityDefNameOf<EntityType::ResearchSubject> subject;
     std::uint32_t level = 0;
 
     void Fields(FieldIo& io) override;

@@ -15,7 +15,7 @@ struct CannonShellDef : EntityDef {
     float acceleration = 0.0f;
     float startingSpeed = 0.0f;
     float maxSpeed = 0.0f;
-    EntityDefName buffToApplyOnImpact;
+    EntityDefNameOf<EntityType::Buff> buffToApplyOnImpact;
     ParticleSimulationDefinitionRef planetImpactEffectName;
     SoundIDVector planetImpactSounds;
     float planetImpactCameraShakeMaxSize = 0.0f;

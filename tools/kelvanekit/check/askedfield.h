@@ -58,6 +58,8 @@ struct AskedField {
     const EnumTable* table = nullptr;
     FieldKind kind = FieldKind::Record;
     NameKind name = NameKind::None;
+    // Which classes the name may be of, as SingleLineArchivable tells.
+    std::uint64_t classes = 0;
     ListRule rule = ListRule::Growing;
     bool isCount = false;
     bool isDegrees = false;

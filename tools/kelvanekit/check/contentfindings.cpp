@@ -244,8 +244,27 @@ void NoteRelations(FieldReader& reader, const LoadedContent& content) {
     }
 }
 
+namespace {
+
+void NoteCrossedBounds(FieldReader& reader) {
+    const AskedFields& asks = reader.Asks();
+    for (const CrossedBounds& bounds : reader.AllCrossedBounds()) {
+        const AskedField& minimum = asks[static_cast<std::size_t>(bounds.minimum)];
+        const AskedField& maximum = asks[static_cast<std::size_t>(bounds.maximum)];
+        const auto isKnown = [&](std::int32_t ask) { return HasFinding(reader.GetFindings(), PathOf(asks, ask)); };
+        if (!minimum.IsMissing() && !maximum.IsMissing() && !isKnown(bounds.minimum) && !isKnown(bounds.maximum)) {
+            reader.Add(Code("unsuitable-value"), bounds.minimum,
+                       "the minimum is above the maximum, which is " + std::string(reader.ValueOf(maximum)) + " in " +
+                           Quoted(maximum.label));
+        }
+    }
+}
+
+} // namespace
+
 // A check that speaks of fields with findings is taken for their consequence.
 void NoteFailedChecks(FieldReader& reader) {
+    NoteCrossedBounds(reader);
     const AskedFields& asks = reader.Asks();
     for (const FailedCheck& check : reader.FailedChecks()) {
         if (check.ask != kNone && asks[static_cast<std::size_t>(check.ask)].IsMissing()) {

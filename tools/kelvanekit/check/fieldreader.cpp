@@ -39,6 +39,33 @@ std::string AllowedTexts(const EnumTable& table) {
     return count > kMostListedTexts ? texts + " and " + std::to_string(count - kMostListedTexts) + " more" : texts;
 }
 
+// The classes of a set: "`Buff`", or "`Frigate` or `Titan`".
+std::string ClassTexts(std::uint64_t classes) {
+    std::string texts;
+    for (const std::u16string_view row : RowsOf(kEntityTypeTable)) {
+        texts += (classes & 1) == 0 ? "" : (texts.empty() ? "" : " or ") + Quoted(row);
+        classes >>= 1;
+    }
+    return texts;
+}
+
+bool IsSmall(char16_t unit) {
+    return unit >= u'a' && unit <= u'z';
+}
+
+// Where a key has one of the words "Min" and "Max" as such, also in small letters at its start.
+std::size_t FindBoundWord(Label label) {
+    for (std::size_t i = 0; i + 3 <= label.size(); ++i) {
+        const bool isWord = label[i] == u'M' || (i == 0 && label[i] == u'm');
+        if (isWord &&
+            ((label[i + 1] == u'i' && label[i + 2] == u'n') || (label[i + 1] == u'a' && label[i + 2] == u'x')) &&
+            (i + 3 == label.size() || !IsSmall(label[i + 3]))) {
+            return i;
+        }
+    }
+    return Label::npos;
+}
+
 void Suggest(Finding& finding, std::u16string_view text) {
     finding.help = "did you mean " + Quoted(text) + "?";
     finding.replacement = '"' + ToUtf8(text) + '"';
@@ -96,6 +123,7 @@ void FieldReader::NoteField(Label label, FieldKind kind, std::int32_t line, std:
     field.kind = kind;
     field.table = kind == FieldKind::Text ? nextTable : nullptr;
     field.name = nextName;
+    field.classes = nextClasses;
     field.isDegrees = nextIsDegrees;
     field.isCount = nextIsCount;
     field.rule = nextList.rule;
@@ -120,6 +148,29 @@ Finding& FieldReader::Add(const FindingCode* code, std::int32_t ask, std::string
     finding.key = PathOf(asks, ask);
     finding.message = std::move(message);
     return finding;
+}
+
+void FieldReader::FollowBound(Label label, double value) {
+    const std::size_t place = FindBoundWord(label);
+    if (place == Label::npos || nextIsCount) {
+        return;
+    }
+    const std::int32_t entry = lists.empty() ? kNone : lists.back().entries;
+    const Bound bound = {label, place, label[place + 1] == u'i', value, group, entry, LastAsk()};
+    for (const Bound& other : bounds) {
+        const bool isPair = other.isMinimum != bound.isMinimum && other.group == group && other.entry == entry &&
+                            other.place == place && other.label.size() == label.size() &&
+                            other.label.substr(0, place) == label.substr(0, place) &&
+                            other.label.substr(place + 3) == label.substr(place + 3);
+        const Bound& minimum = bound.isMinimum ? bound : other;
+        const Bound& maximum = bound.isMinimum ? other : bound;
+        // A negative maximum stands for none.
+        if (isPair && minimum.value > maximum.value && maximum.value >= 0.0) {
+            Spoil();
+            crossedBounds.push_back({minimum.ask, maximum.ask});
+        }
+    }
+    bounds[boundCount++ % bounds.size()] = bound;
 }
 
 // A text that is no row becomes the one that a mend names, or the one that is most like it.
@@ -202,16 +253,26 @@ void FieldReader::NoteNegativeCount(std::int32_t count) {
 
 void FieldReader::NoteName(std::u16string_view name) {
     const NameKind kind = std::exchange(nextName, NameKind::None);
-    if (kind == NameKind::None || names == nullptr || name.empty() || names->Has(kind, name)) {
+    if (kind == NameKind::None || names == nullptr || name.empty() || name == kInvalidText) {
+        return;
+    }
+    const bool isKnown = names->Has(kind, name);
+    const std::uint64_t classes = nextClasses == 0 ? KnownNames::kAnyClass : nextClasses;
+    if (isKnown && (names->ClassesOf(kind, name) & classes) != 0) {
         return;
     }
     Spoil();
-    if (IsNoting()) {
-        Finding& finding = Add(Code("unresolved-name"), LastAsk(),
-                               "there is no " + std::string(KnownNames::WhatIs(kind)) + ' ' + Quoted(name));
-        if (const std::u16string_view nearest = names->NearestTo(kind, name); !nearest.empty()) {
-            Suggest(finding, nearest);
-        }
+    if (!IsNoting()) {
+        return;
+    }
+    Finding& finding =
+        isKnown ? Add(Code("wrong-class"), LastAsk(),
+                      Quoted(name) + " is a definition of the class " + ClassTexts(names->ClassesOf(kind, name)) +
+                          ", and the key wants " + ClassTexts(classes))
+                : Add(Code("unresolved-name"), LastAsk(),
+                      "there is no " + std::string(KnownNames::WhatIs(kind)) + ' ' + Quoted(name));
+    if (const std::u16string_view nearest = names->NearestTo(kind, name, classes); !nearest.empty()) {
+        Suggest(finding, nearest);
     }
 }
 

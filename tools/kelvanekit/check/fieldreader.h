@@ -9,7 +9,15 @@
 #include "tools/kelvanekit/check/writtentext.h"
 #include "tools/kelvanekit/findings/finding.h"
 
+#include <array>
+
 namespace Vorn {
+
+// Two fields of a record whose keys differ in `Min` and `Max` alone, the first with the larger value.
+struct CrossedBounds {
+    std::int32_t minimum;
+    std::int32_t maximum;
+};
 
 // A check of a record that failed.
 struct FailedCheck {
@@ -42,6 +50,7 @@ public:
     const AskedFields& Asks() const { return asks; }
     Findings& GetFindings() { return findings; }
     const std::vector<FailedCheck>& FailedChecks() const { return failedChecks; }
+    const std::vector<CrossedBounds>& AllCrossedBounds() const { return crossedBounds; }
     // Whether the first ask is the version.
     bool HasVersion() const { return hasVersion; }
     // The process would end abnormally at the last field.
@@ -99,6 +108,8 @@ protected:
     std::int32_t ParentAsk() const { return records.empty() ? kNone : records.back(); }
     std::string CurrentPath() const { return PathOf(asks, LastAsk()); }
     void Spoil() { isUnclean = isUnclean || mode == Mode::Strict; }
+    // Follows a number that may be the minimum or maximum of another.
+    void FollowBound(Label label, double value);
     template <class Value>
     void Keep(const Value& value) {
         if (kept != nullptr) [[unlikely]] {
@@ -114,7 +125,9 @@ protected:
             records.push_back(LastAsk());
         }
         ++depth;
+        const std::int32_t around = std::exchange(group, ++lastGroup);
         readFields();
+        group = around;
         --depth;
         if (IsNoting()) {
             records.pop_back();
@@ -133,6 +146,7 @@ protected:
     // What was said of the next field.
     const EnumTable* nextTable = nullptr;
     NameKind nextName = NameKind::None;
+    std::uint64_t nextClasses = 0;
     bool nextIsDegrees = false;
     bool nextIsCount = false;
     ListShape nextList{};
@@ -140,6 +154,9 @@ protected:
 
     std::vector<OpenList> lists;
     std::int32_t depth = 0;
+    // The number of the record that is read.
+    std::int32_t group = 0;
+    std::int32_t lastGroup = 0;
     // The asks of the records around.
     std::vector<std::int32_t> records;
     AskedFields asks;
@@ -149,6 +166,20 @@ protected:
 private:
     void Handle(const char* file, int line, std::u16string_view text, bool isFailure) override;
 
+    struct Bound {
+        Label label;
+        std::size_t place;
+        bool isMinimum;
+        double value;
+        std::int32_t group;
+        std::int32_t entry;
+        std::int32_t ask;
+    };
+
+    // The latest ones.
+    std::array<Bound, 8> bounds{};
+    std::size_t boundCount = 0;
+    std::vector<CrossedBounds> crossedBounds;
     Finding surplus;
     std::vector<FailedCheck> failedChecks;
     std::unique_ptr<KeptValues> kept;
@@ -167,8 +198,10 @@ public:
 
     void Read(Label label, SingleLineArchivable& value) override {
         this->nextName = value.GetNameKind();
+        this->nextClasses = value.GetNameClasses();
         value.Read(label, *this);
         this->nextName = NameKind::None;
+        this->nextClasses = 0;
     }
     void Read(Label label, Archivable& value, std::int32_t _version) override {
         if (Own().BeginGroup(label, FieldKind::Record)) {
@@ -199,6 +232,9 @@ public:
     template <class Value>
     void ReadValue(Label label, Value& value) {
         Own().ReadOne(label, value);
+        if constexpr (kIsOneOf<Value, float, std::int32_t, std::uint32_t>) {
+            this->FollowBound(label, static_cast<double>(value));
+        }
         this->Keep(value);
     }
 

@@ -1,4 +1,5 @@
 #include "fuzz/damage.h"
+#include "gs/entity/entitytype.h"
 #include "tests/support/tempfolder.h"
 #include "tests/tools/kelvanekit/mistakes.h"
 #include "tools/kelvane/contentconverter.h"
@@ -226,6 +227,44 @@ TEST(CheckTest, NamesAreLookedUp) {
     EXPECT_TRUE(std::ranges::any_of(findings, [](const Finding& finding) {
         return finding.key == "ExplosionName" && finding.code == Code("unresolved-name");
     })) << Shown(findings);
+}
+
+TEST(CheckTest, ReferencesAreOfTheClassThatTheirKeyWants) {
+    const auto classOf = [](EntityType type) { return std::uint64_t{1} << static_cast<int>(type); };
+    const Sample& sample = SampleNamed("ability_field_repair.entity");
+    const auto check = [&](EntityType type) {
+        KnownNames names;
+        names.Add(NameKind::Entity, u"BuffFieldRepairAura", classOf(type));
+        names.Add(NameKind::Entity, u"BuffFieldRepairAuras", classOf(EntityType::Buff));
+        names.Add(NameKind::Entity, u"BuffFieldRepair", classOf(EntityType::Frigate));
+        Findings findings = CheckContent(sample.kind, sample.bytes, {&names});
+        std::erase_if(findings, [](const Finding& finding) { return finding.code != Code("wrong-class"); });
+        return findings;
+    };
+    EXPECT_EQ(Shown(check(EntityType::Buff)), "");
+    const Findings findings = check(EntityType::Frigate);
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].key, "buffType");
+    EXPECT_EQ(findings[0].message,
+              "`BuffFieldRepairAura` is a definition of the class `Frigate`, and the key wants `Buff`");
+    EXPECT_EQ(findings[0].replacement, "\"BuffFieldRepairAuras\"");
+}
+
+TEST(CheckTest, AMinimumAboveItsMaximumIsReported) {
+    const auto check = [](std::string_view minimum) {
+        const Sample& sample = SampleNamed("beam-impact.particle");
+        const std::string text =
+            Edited(sample.name, "MinStartLinearSpeed ", "MinStartLinearSpeed " + std::string(minimum));
+        ContentConverter converter;
+        converter.Convert(sample.kind, "x", text, FileArchiveType::Binary);
+        const std::string binary(converter.Bytes());
+        const Findings inText = CheckContent(sample.kind, text);
+        const Findings inBinary = CheckContent(sample.kind, binary);
+        EXPECT_EQ(inText.size(), inBinary.size());
+        return inText.empty() ? "" : std::string(inText[0].code->name) + ' ' + LastKeyOf(inText[0]);
+    };
+    EXPECT_EQ(check(""), "");
+    EXPECT_EQ(check("99"), "unsuitable-value ParticleMinStartLinearSpeed");
 }
 
 } // namespace

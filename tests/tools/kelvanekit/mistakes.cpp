@@ -76,6 +76,14 @@ void SoundContent::AddLineMistakes(std::int32_t i, std::vector<Mistake>& mistake
                                 {{0, true, line.key}, {0, true, next.key}, {1, true, line.key}, {1, true, next.key}}});
         }
     }
+    if (i + 4 < static_cast<std::int32_t>(lines.size()) && IsMovable(i, 4)) {
+        const auto from = lines.begin() + i;
+        mistakes.push_back({"moved",
+                            i,
+                            4,
+                            {from[1].text, from[2].text, from[3].text, from[0].text},
+                            {{0, true, line.key}, {3, true, line.key}}});
+    }
     if (!isRow && line.key.size() > 3) {
         const auto with = [&](const char* mistake, std::string key) {
             if (key != line.key) {
@@ -94,6 +102,24 @@ void SoundContent::AddLineMistakes(std::int32_t i, std::vector<Mistake>& mistake
         key[0] = static_cast<char>(key[0] ^ 0x20);
         with("key in another case", key);
     }
+}
+
+// Whether some lines stand side by side and have different keys.
+bool SoundContent::IsMovable(std::int32_t first, std::int32_t count) const {
+    for (std::int32_t i = first; i < first + count; ++i) {
+        const Line& line = lines[static_cast<std::size_t>(i)];
+        const bool isPlain =
+            line.end == i + 1 && line.indentation == lines[static_cast<std::size_t>(first)].indentation;
+        for (std::int32_t k = first; k < i; ++k) {
+            if (lines[static_cast<std::size_t>(k)].key == line.key) {
+                return false;
+            }
+        }
+        if (!isPlain || line.isCount || line.kind == static_cast<int>(FieldKind::Row)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void SoundContent::AddValue(const char* mistake, std::int32_t i, std::string value,

@@ -56,6 +56,7 @@ private:
         std::int32_t end = 0;
     };
 
+    bool IsMovable(std::int32_t first, std::int32_t count) const;
     void AddLineMistakes(std::int32_t i, std::vector<Mistake>& mistakes) const;
     void AddValueMistakes(std::int32_t i, std::vector<Mistake>& mistakes) const;
     void AddListMistakes(std::int32_t i, std::vector<Mistake>& mistakes) const;

@@ -212,6 +212,31 @@ std::vector<std::int32_t> AsksOf(const AskedFields& asks, const FailedCheck& che
 
 } // namespace
 
+void JoinMoved(Findings& findings) {
+    const auto lastKeyOf = [](const Finding& finding) {
+        const std::string key = finding.key.substr(finding.key.rfind('.') + 1);
+        return key.substr(0, key.find('['));
+    };
+    for (Finding& stray : findings) {
+        if (stray.code != Code("unexpected-line") && stray.code != Code("unexpected-section")) {
+            continue;
+        }
+        const auto missing = std::ranges::find_if(findings, [&](const Finding& finding) {
+            return (finding.code == Code("missing-key") || finding.code == Code("missing-section")) &&
+                   !stray.key.empty() && lastKeyOf(finding) == lastKeyOf(stray);
+        });
+        if (missing != findings.end()) {
+            stray.code = Code("moved-line");
+            stray.message =
+                Quoted(lastKeyOf(stray)) + " belongs behind line " + std::to_string(missing->place.line - 1);
+            stray.help = "move it to its place";
+            stray.key = missing->key;
+            missing->code = nullptr;
+        }
+    }
+    std::erase_if(findings, [](const Finding& finding) { return finding.code == nullptr; });
+}
+
 std::int64_t SpotOf(const AskedField& field) {
     return field.line != kNone ? field.line : field.offset;
 }

@@ -18,6 +18,9 @@ std::string NoteChanges(FieldReader& reader, LoadedContent& content);
 // Another version than the one that is written.
 void NoteVersion(FieldReader& reader, const std::string& gained);
 
+// Makes one finding of a key that is missing at one place and stands at another.
+void JoinMoved(Findings& findings);
+
 // The checks of records that failed.
 void NoteFailedChecks(FieldReader& reader);
 

@@ -103,6 +103,7 @@ Findings ContentReading::TakeFindings() {
             NoteFailedChecks(*reader);
         }
         findings = std::move(reader->GetFindings());
+        JoinMoved(findings);
     }
     std::ranges::stable_sort(findings, {}, [](const Finding& finding) {
         return std::tuple(finding.place.line, finding.place.offset, finding.place.begin);

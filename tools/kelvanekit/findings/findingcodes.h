@@ -54,6 +54,21 @@ Right:
     width 12.000000
     height 7.500000
 )"},
+    {"moved-line", Severity::Error, R"(A line, or a group of lines, stands at another place than its own.
+Keys are read in one fixed order: all behind the first of the two places is lost. The
+message tells where the line belongs.
+
+Wrong:
+    width 12.000000
+    depth 4.000000
+    weight 3.000000
+    height 7.500000
+Right:
+    width 12.000000
+    height 7.500000
+    depth 4.000000
+    weight 3.000000
+)"},
     {"misspelt-key", Severity::Error, R"(A key is not spelt as it should be.
 Capitals count. The field keeps its default, and everything behind the line is lost.
 

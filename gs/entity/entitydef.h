@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/archive/record.h"
-#include "gs/entity/entitytype.h"
 #include "gs/entity/support/entitydefname.h"
+#include "gs/entity/support/entitytype.h"
 
 namespace Vorn {
 

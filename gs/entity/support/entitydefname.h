@@ -4,7 +4,7 @@
 #include "engine/archive/record.h"
 #include "engine/datastructures/dynamicvector.h"
 #include "engine/datastructures/fixedvector.h"
-#include "gs/entity/entitytype.h"
+#include "gs/entity/support/entitytype.h"
 
 namespace Vorn {
 

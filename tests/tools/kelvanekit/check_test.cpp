@@ -1,5 +1,5 @@
 #include "fuzz/damage.h"
-#include "gs/entity/entitytype.h"
+#include "gs/entity/support/entitytype.h"
 #include "tests/support/tempfolder.h"
 #include "tests/tools/kelvanekit/mistakes.h"
 #include "tools/kelvane/contentconverter.h"

@@ -1,14 +1,26 @@
-# Manual pages with the version in their foot, and the target `docs`: pages about the library from its headers' comments.
+# Manual pages with the version in their foot, the reference of the keys, and the target `docs`: pages about the library
+# from its headers' comments.
+include(GNUInstallDirs)
 file(GLOB manualPages CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} docs/*.[1-9].in)
 set(manuals)
 if(NOT TARGET kelvane-kit)
-  list(FILTER manualPages EXCLUDE REGEX kelvane-kit)
+  list(FILTER manualPages EXCLUDE REGEX kelvane-)
 endif()
 foreach(page IN LISTS manualPages)
   string(REGEX REPLACE "\\.in$" "" manual ${PROJECT_BINARY_DIR}/${page})
   configure_file(${page} ${manual} @ONLY)
   list(APPEND manuals ${manual})
 endforeach()
+
+# The program of another system does not run here.
+set(keyReference)
+if(TARGET kelvane-kit AND NOT CMAKE_CROSSCOMPILING)
+  set(keyReference ${PROJECT_BINARY_DIR}/docs/keys.html)
+  add_custom_command(OUTPUT ${keyReference}
+    COMMAND kelvane-kit keys --format html > ${keyReference}
+    DEPENDS kelvane-kit COMMENT "Writing docs/keys.html" VERBATIM)
+  add_custom_target(key_reference ALL DEPENDS ${keyReference})
+endif()
 
 if(PROJECT_IS_TOP_LEVEL)
   find_package(Doxygen QUIET)

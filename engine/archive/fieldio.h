@@ -75,6 +75,13 @@ public:
         }
     }
 
+    // The next text is kept by a member of a smaller capacity than that of the field, and cut to it.
+    void CutTo(std::int32_t capacity) const {
+        if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
+            observer->OnCapacity(capacity);
+        }
+    }
+
     // A number in memory, its text in every file. A missing or unknown text gives -1, whatever the field held.
     template <class E>
     void Enum(Label label, E& value, const EnumTable& table) {

@@ -49,6 +49,8 @@ public:
     virtual void OnEnum(const EnumTable&) {}
     // The next text is a name of this kind.
     virtual void OnName(NameKind) {}
+    // The next text is cut to this capacity, which is less than that of its field.
+    virtual void OnCapacity(std::int32_t) {}
     // The next float is an angle in degrees.
     virtual void OnDegrees() {}
     // The next Uint is the count of a list. OnEntry precedes each of its entries, OnListEnd follows the last.

@@ -46,6 +46,7 @@ void Brush::StateInfo::Fields(FieldIo& io) {
     if (io.Writing() && texture != nullptr) {
         fileName.Assign(texture->GetFileName().View());
     }
+    io.CutTo(FileTexture::kNameCapacity);
     io.String(u"fileName", fileName);
     if (io.Reading()) {
         ReleaseTexture();

@@ -81,12 +81,15 @@ public:
     void BeforeAbnormalEnd() override { throw AbnormalEnd(); }
 };
 
-class DroppedReports final : public ReportHandler {
+// Gives the reports of this thread to a handler, or to nobody, while it lives.
+class GivenReports final : public ReportHandler {
 public:
-    DroppedReports() : previous(std::exchange(g_Reporting, {})) { g_Reporting.reportHandler = this; }
-    DroppedReports(const DroppedReports&) = delete;
-    DroppedReports& operator=(const DroppedReports&) = delete;
-    ~DroppedReports() override { g_Reporting = previous; }
+    explicit GivenReports(ReportHandler* handler) : previous(std::exchange(g_Reporting, {})) {
+        g_Reporting.reportHandler = handler != nullptr ? handler : this;
+    }
+    GivenReports(const GivenReports&) = delete;
+    GivenReports& operator=(const GivenReports&) = delete;
+    ~GivenReports() override { g_Reporting = previous; }
 
     void Handle(const char*, int, std::u16string_view, bool) override {}
 
@@ -102,7 +105,7 @@ ConversionResult ContentConverter::Convert(ContentKind kind, std::string_view fi
     const std::u16string path = NameFromBytes(fileName);
     const std::u16string_view name = FileNameOf(path);
     destination.clear();
-    const DroppedReports reports;
+    const GivenReports reports(handler);
     const ThrowingEnd end;
     try {
         MemoryFiles files(name, source, destination);

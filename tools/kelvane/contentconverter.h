@@ -8,6 +8,8 @@
 
 namespace Vorn {
 
+class ReportHandler;
+
 enum class ConversionResult {
     Converted,
     // The converter would write no file: an entity type without a class, or too long a name.
@@ -17,18 +19,22 @@ enum class ConversionResult {
 };
 
 // Converts contents one after the other from memory into memory, into the bytes that the converter writes, whatever was
-// converted before. Reports are dropped. Each thread needs its own.
+// converted before. Each thread needs its own.
 class ContentConverter {
 public:
     // Converts the content of a file; of its name, what follows the folders names an entity definition.
     ConversionResult Convert(ContentKind kind, std::string_view fileName, std::string_view source,
                              FileArchiveType form);
 
+    // Gets what is reported; null, the default, for nobody. Not owned.
+    void SetReportHandler(ReportHandler* _handler) { handler = _handler; }
+
     // What came of the last conversion.
     std::string_view Bytes() const { return destination; }
 
 private:
     std::string destination;
+    ReportHandler* handler = nullptr;
 };
 
 } // namespace Vorn

@@ -14,12 +14,6 @@ namespace {
 
 constexpr int kMostJobs = 1024;
 
-// An option that may stand several times, with one value each.
-template <class Option>
-void MakeRepeatable(Option* option) {
-    option->expected(1)->allow_extra_args(false)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-}
-
 std::string Joined(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names) {

@@ -16,6 +16,13 @@ namespace Vorn {
 // The options that commands share. What they declare is filled in when the command line is parsed; `options` must live
 // until then.
 
+// An option that may stand several times, with one value each.
+template <class Option>
+void MakeRepeatable(Option* option) {
+    using Policy = decltype(option->get_multi_option_policy());
+    option->expected(1)->allow_extra_args(false)->multi_option_policy(Policy::TakeAll);
+}
+
 // An option with one of some names as its value.
 void AddChoice(CLI::App& app, const char* option, const char* description, const std::vector<std::string>& names,
                const std::function<void(const std::string&)>& choose);

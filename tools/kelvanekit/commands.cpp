@@ -6,6 +6,8 @@ CommandRun DeclareCheck(CLI::App& app);
 CommandRun DeclareConvert(CLI::App& app);
 CommandRun DeclareDiff(CLI::App& app);
 CommandRun DeclareDump(CLI::App& app);
+CommandRun DeclareKeys(CLI::App& app);
+CommandRun DeclareNew(CLI::App& app);
 
 namespace {
 
@@ -14,6 +16,8 @@ constexpr Command kCommands[] = {
     {"convert", "Convert content files, each as a whole or not at all", DeclareConvert},
     {"dump", "Show a content file field by field, with the bytes of a binary one", DeclareDump},
     {"diff", "Show the differences of two content files by their keys", DeclareDiff},
+    {"keys", "Show the reference of all keys of content files", DeclareKeys},
+    {"new", "Print a new content file with the default of each key", DeclareNew},
 };
 
 } // namespace

@@ -23,6 +23,11 @@ _kelvane_kit() {
         mapfile -t COMPREPLY < <(_kelvane_kit_values "$value" "$word" "$program")
     elif [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(grep -oE -- '^  [^ ]*--[a-z-]+' <<<"$help" | grep -o -- '--.*')" -- "$word")
+    elif [[ ${COMP_WORDS[1]} == keys || ${COMP_WORDS[1]} == new ]]; then
+        # Types, classes and records, as the overview of the keys lists them.
+        mapfile -t COMPREPLY < <(compgen -W "$("$program" keys 2>/dev/null | sed -n 's/^  \([^ ]*\) .*/\1/p')$(
+            [[ ${COMP_WORDS[1]} == new ]] && echo " entity"
+        )" -- "$word")
     else
         compopt -o filenames 2>/dev/null
         mapfile -t COMPREPLY < <(

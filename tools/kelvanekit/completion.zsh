@@ -30,6 +30,10 @@ _kelvane_kit() {
     elif [[ $words[CURRENT] == -* ]]; then
         entries=(${(f)"$(print -rl -- $help | grep -oE -- '^  [^ ]*--[a-z-]+' | grep -o -- '--.*')"})
         _describe option entries
+    elif [[ $words[2] == (keys|new) ]]; then
+        entries=(${(f)"$($program keys 2>/dev/null | sed -n 's/^  \([^ ]*\) .*/\1/p')"})
+        [[ $words[2] == new ]] && entries+=(entity)
+        _describe name entries
     else
         value=$($program check --help 2>/dev/null | sed -n 's/^  --type \([^ ]*\).*/\1/p')
         _files -g "*.($value)"

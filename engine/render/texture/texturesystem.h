@@ -12,18 +12,20 @@ class TextureSystem;
 // A texture as far as records need it: its names, and its extent in pixels, 0 without an image.
 class FileTexture {
 public:
+    static constexpr int kNameCapacity = 256;
+
     // The system that handed it out.
     TextureSystem& GetOwner() const { return *owner; }
     // As long as no image file is looked for, its file name.
-    const FixedString<256>& GetName() const { return fileName; }
-    const FixedString<256>& GetFileName() const { return fileName; }
+    const FixedString<kNameCapacity>& GetName() const { return fileName; }
+    const FixedString<kNameCapacity>& GetFileName() const { return fileName; }
     std::int32_t GetWidth() const { return 0; }
     std::int32_t GetHeight() const { return 0; }
 
 private:
     friend class TextureSystem;
 
-    FixedString<256> fileName;
+    FixedString<kNameCapacity> fileName;
     TextureSystem* owner = nullptr;
     FileTexture* nextFree = nullptr;
 };

@@ -25,6 +25,7 @@ void ParticleAffector::AttachmentFields(FieldIo& io) {
         if (io.Writing()) {
             emitterName.Assign(attachedEmitterNames[i].View());
         }
+        io.CutTo(Name::kCapacity);
         io.String(u"attachedEmitterName", emitterName);
         if (io.Reading()) {
             AppendAttachedEmitter(emitterName.View());

@@ -27,6 +27,9 @@ expect "$(complete_with check --root sampl)" samples
 expect "$(complete_with check samples/entity/star_)" samples/entity/star_amber.entity
 expect "$(complete_with check --disable missing-key samples/b)" samples/brushes
 expect "$(complete_with check LICEN)" LICENSE
+expect "$(complete_with keys --format '')" 'text markdown html json'
+expect "$(complete_with keys CapitalSh)" CapitalShip
+expect "$(complete_with new entity StarBaseU)" StarBaseUpgrade
 
 command -v zsh >/dev/null || { echo "zsh is not there: its completion is not tested" && exit 0; }
 zsh_complete_with() {
@@ -42,4 +45,5 @@ expect "$(zsh_complete_with check --m | grep -o -e '--max-findings')" --max-find
 expect "$(zsh_complete_with check --format '')" 'pretty line json sarif github'
 expect "$(zsh_complete_with check --disable '' | grep -o missing-section)" missing-section
 expect "$(zsh_complete_with check --root '')" 'files -/'
+expect "$(zsh_complete_with keys Fri | tr ' ' '\n' | grep -x Frigate)" Frigate
 expect "$(zsh_complete_with check '')" 'files -g *.(mesh|particle|brushes|entity)'

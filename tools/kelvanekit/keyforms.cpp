@@ -1,0 +1,20 @@
+#include "tools/kelvanekit/keyforms.h"
+
+namespace Vorn {
+
+namespace {
+
+constexpr KeyForm kForms[] = {
+    {"text", PrintKeysAsText},
+    {"markdown", PrintKeysAsMarkdown},
+    {"html", PrintKeysAsHtml},
+    {"json", PrintKeysAsJson},
+};
+
+} // namespace
+
+std::span<const KeyForm> KeyForms() {
+    return kForms;
+}
+
+} // namespace Vorn

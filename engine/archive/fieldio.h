@@ -190,15 +190,20 @@ public:
     // count fires "newSize >= 0" and leaves the array empty. Too much room ends the process, see ListRoom.
     template <class T, class Entry>
     void SizedList(Label countLabel, DynamicArray<T>& array, Entry entry) {
-        if (reading) {
-            const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
+        TransferSized<T>(countLabel, array, entry, [](std::int32_t count) {
             CheckAssert(count >= 0, "newSize >= 0");
-            const ListRoom room = MakeRoom<T>(count);
-            array.Resize(std::max(count, 0));
-            ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
-        } else {
-            WriteList(countLabel, array, entry);
-        }
+            return std::max(count, 0);
+        });
+    }
+
+    // A sized list whose elements are plain, each one nested under `label` with the fields that the record `Archived`
+    // lists for it. A missing or negative count ends the process after its check: such an array must not come out
+    // empty.
+    template <class Archived, class T>
+    void PlainList(Label countLabel, Label label, DynamicArray<T>& array) {
+        TransferSized<Archived>(
+            countLabel, array, [&](T& element) { PlainRecord<Archived>(label, element); },
+            [](std::int32_t count) { return count; });
     }
 
     // A fixed array, which has no count: each element stands under a label of its own, as an entry of the kind that
@@ -246,12 +251,55 @@ public:
     }
 
 private:
+    // An element that knows whether it was read.
+    template <class Archived>
+    class ReadElement final : public Archivable {
+    public:
+        using Archivable::Read;
+
+        void Read(Archive& _archive) override {
+            wasRead = true;
+            element.Read(_archive);
+        }
+        void Write(Archive& _archive) const override { element.Write(_archive); }
+
+        Archived element;
+        bool wasRead = false;
+    };
+
     template <class T>
     void Transfer(Label label, T& value) {
         if (reading) {
             archive.Read(label, value);
         } else {
             archive.Write(label, static_cast<const T&>(value));
+        }
+    }
+
+    // `Stored` is what an element is in a file; `sizeOf` gives the size for a count.
+    template <class Stored, class T, class Entry, class SizeOf>
+    void TransferSized(Label countLabel, DynamicArray<T>& array, Entry entry, SizeOf sizeOf) {
+        if (reading) {
+            const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
+            const ListRoom room = MakeRoom<Stored>(count);
+            array.Resize(sizeOf(count));
+            ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
+        } else {
+            WriteList(countLabel, array, entry);
+        }
+    }
+
+    // A plain element that the file does not hold is not stored: that would be the first use of its memory.
+    template <class Archived, class T>
+    void PlainRecord(Label label, T& element) {
+        ReadElement<Archived> archived;
+        T& fields = archived.element;
+        if (!reading) {
+            fields = element;
+        }
+        Record(label, archived);
+        if (reading && archived.wasRead) {
+            element = fields;
         }
     }
 

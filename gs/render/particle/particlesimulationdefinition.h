@@ -10,6 +10,7 @@ class ParticleSimulationDefinition : public Record {
 public:
     static constexpr int kMaxEmitters = 32;
     static constexpr int kMaxAffectors = 30;
+    static_assert(kMaxEmitters == ParticleAffector::kMaxAttachedEmitters);
 
     // The key of the one record that a particle file holds.
     static constexpr Label kLabel = u"ParticleSimulation";
@@ -26,6 +27,8 @@ public:
 
     int GetEmitterCount() const { return emitters.Size(); }
     const ParticleEmitter& GetEmitter(int i) const { return *emitters[i]; }
+    int GetAffectorCount() const { return affectors.Size(); }
+    const ParticleAffector& GetAffector(int i) const { return *affectors[i]; }
 
     // Carries an emitter's new name into the affectors that are attached to it.
     void RenameAttachedEmitter(std::u16string_view oldName, std::u16string_view newName);

@@ -8,6 +8,8 @@
 
 namespace Vorn {
 
+static_assert(TextLines::kLineCapacity <= Scanner::kLongestNumber);
+
 void TextLines::TakeLine() {
     KeepPlainLine();
     const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);

@@ -56,6 +56,7 @@ private:
 template <class Scan>
 VORN_ALWAYS_INLINE bool TextLines::ReadPlainLine(Label label, Scan scan) {
     static_assert(kLongestPlainLine <= kLineCapacity);
+    static_assert(kPlainSlack <= ReadBuffer::kSlack);
     if (!readsPlainLines || !file->HasPlainText()) [[unlikely]] {
         return false;
     }

@@ -12,7 +12,8 @@ namespace Vorn {
 
 namespace {
 constexpr std::size_t kLongestUtf8 = 4;
-}
+static_assert(kWidenBlock <= ReadBuffer::kSlack);
+} // namespace
 
 void LineReader::DetectEncoding() {
     encoding = Encoding::Utf8;

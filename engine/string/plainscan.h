@@ -1,10 +1,7 @@
 #pragma once
 
 #include "engine/string/ascii.h"
-
-#include <bit>
-#include <cstdint>
-#include <cstring>
+#include "engine/string/digits.h"
 
 namespace Vorn {
 
@@ -56,13 +53,13 @@ public:
         if (negative) [[unlikely]] {
             ++start;
         }
-        const std::uint64_t digits = WordAt(start) ^ kEachByte * '0';
-        const std::size_t count = BytesBelow(BeyondNine(digits) | kLastByte);
+        const std::uint64_t digits = Digits::FromText(Digits::WordAt(start));
+        const std::size_t count = Digits::BytesBelow(Digits::BeyondNine(digits) | kLastByte);
         if (count == 0) [[unlikely]] {
             return Fail();
         }
         cursor = start + count;
-        const auto magnitude = static_cast<std::int32_t>(SumOfDigits(digits << (64 - 8 * count)));
+        const auto magnitude = static_cast<std::int32_t>(Digits::Sum(digits << (64 - 8 * count)));
         value = negative ? -magnitude : magnitude;
         return *this;
     }
@@ -127,17 +124,9 @@ public:
 private:
     static constexpr std::size_t kLongestWord = kPlainSlack - 2 * kWidenBlock;
     static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
-    static constexpr std::uint64_t kEachByte = 0x0101010101010101;
 
-    // Beside other bits it makes BytesBelow find seven bytes at most.
+    // With it BytesBelow finds seven bytes at most.
     static constexpr std::uint64_t kLastByte = std::uint64_t{0x80} << 56;
-
-    // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
-    // is added takes a digit beyond 9 to its top bit; of the point every bit is wrong.
-    static constexpr std::uint64_t kPointByte = 0xFF00;
-    static constexpr std::uint64_t kPointAndSix = kEachByte * '0' ^ std::uint64_t{'0' ^ '.'} << 8;
-    static constexpr std::uint64_t kBeyondNine = kEachByte * (0x7F - 9) & ~kPointByte;
-    static constexpr std::uint64_t kWrongBits = kEachByte * 0x80 | kPointByte;
 
     // No step fits what follows but an empty word or text.
     static constexpr char kNothing[kPlainSlack] = {};
@@ -147,45 +136,15 @@ private:
         return *this;
     }
 
-    // Eight bytes, the first one lowest.
-    static std::uint64_t WordAt(const char* p) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, p, sizeof word);
-        if constexpr (std::endian::native == std::endian::big) {
-            word = SwapBytes(word);
-        }
-        return word;
-    }
-
-    static std::uint64_t SwapBytes(std::uint64_t word) {
-        std::uint64_t swapped = 0;
-        for (int i = 0; i < 8; ++i, word >>= 8) {
-            swapped = swapped << 8 | (word & 0xFF);
-        }
-        return swapped;
-    }
-
-    // How many bytes there are below the lowest one that has a bit.
-    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<unsigned>(std::countr_zero(bits)) / 8; }
-
-    // The top bit of each byte beyond 9, up to the first one and with it; behind a byte that is not, anything.
-    VORN_ALWAYS_INLINE static std::uint64_t BeyondNine(std::uint64_t digits) {
-        return (digits | (digits + kEachByte * (0x7F - 9))) & kEachByte * 0x80;
-    }
-
-    static bool AreDigitPointAndSix(std::uint64_t digits) {
-        return ((digits | (digits + kBeyondNine)) & kWrongBits) == 0;
-    }
-
-    // A float with one digit ahead of the point, which goes to the place of the point.
+    // A float with one digit before the point.
     VORN_ALWAYS_INLINE bool ShortMillionths(const char* start, std::uint64_t& millionths) {
-        const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
-        millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
+        const std::uint64_t digits = Digits::WordAt(start) ^ Digits::kPointAndSix;
+        millionths = Digits::Millionths(digits);
         cursor = start + 8;
-        return AreDigitPointAndSix(digits);
+        return Digits::ArePointAndSix(digits);
     }
 
-    // A float with any other number of digits there.
+    // A float with any other number of digits before it.
     VORN_ALWAYS_INLINE bool LongMillionths(const char* start, std::uint64_t& millionths) {
         std::uint64_t number = 0;
         const char* point = start;
@@ -197,17 +156,11 @@ private:
         if (point == start) [[unlikely]] {
             return false;
         }
-        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
-        millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
+        const std::uint64_t digits = Digits::WordAt(point - 1) ^ Digits::kPointAndSix;
+        constexpr std::uint64_t kDecimals = ~std::uint64_t{0xFFFF};
+        millionths = number * 1000000 + Digits::Sum(digits & kDecimals);
         cursor = point + 7;
-        return AreDigitPointAndSix(digits);
-    }
-
-    // The number that the eight bytes are the digits of: summed by pairs, then by fours, each sum on top of its lanes.
-    VORN_ALWAYS_INLINE static std::uint64_t SumOfDigits(std::uint64_t digits) {
-        const std::uint64_t pairs = digits * (1 + (10 << 8)) >> 8 & 0x00FF00FF00FF00FF;
-        const std::uint64_t fours = pairs * (1 + (100 << 16)) >> 16 & 0x0000FFFF0000FFFF;
-        return fours * (1 + (std::uint64_t{10000} << 32)) >> 32;
+        return Digits::ArePointAndSix(digits);
     }
 
     static std::uint32_t DigitAt(const char* p) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <string_view>
 
@@ -17,6 +18,12 @@ inline const char16_t* SkipWhiteSpace(const char16_t* text) {
     return text;
 }
 
+// Whether a double within the range of floats lies in the middle between two of them: of the 29 bits that a float does
+// not have, the top one is set alone. 16777217.0 does, with the bits 0x4170000010000000.
+constexpr bool IsMiddleOfFloats(double value) {
+    return (std::bit_cast<std::uint64_t>(value) & 0x1FFFFFFF) == 0x10000000;
+}
+
 // Scans a terminated text step by step after a form. The first step that does not fit ends the scan: it and all later
 // steps store nothing. `Stored` counts the numbers stored, as a formatted scan does.
 //
@@ -25,6 +32,9 @@ inline const char16_t* SkipWhiteSpace(const char16_t* text) {
 // even; overflow stores an infinity. No hexadecimal floats, no locale.
 class Scanner {
 public:
+    // Units of a float or a double that are looked at. No line of a file holds more.
+    static constexpr std::size_t kLongestNumber = 1024;
+
     // The text must have its terminator behind it.
     explicit Scanner(std::u16string_view text) : cursor(text.data()), end(text.data() + text.size()) {}
 

@@ -27,6 +27,10 @@ float RootOf(float square) {
 using Entry = std::uint64_t;
 
 constexpr int kKeyShift = 32;
+// The sign of a key is never set.
+constexpr int kKeyBits = 31;
+// The most bits that one pass sorts by.
+constexpr int kRadixBits = 11;
 constexpr int kIndexShift = Mesh::Data::kDirectionCount;
 constexpr std::size_t kMostVertices = std::size_t{1} << (kKeyShift - kIndexShift);
 
@@ -63,7 +67,7 @@ std::uint32_t KeyOf(float coordinate, float radius) {
 
 // Moves entries into the order of the `bits` bits of theirs from `shift` on; equal ones stay in order.
 void RadixPass(std::span<const Entry> from, Entry* to, int shift, int bits) {
-    std::array<std::uint32_t, 2048> places{};
+    std::array<std::uint32_t, std::size_t{1} << kRadixBits> places{};
     const Entry mask = (Entry{1} << bits) - 1;
     for (const Entry entry : from) {
         ++places[entry >> shift & mask];
@@ -80,13 +84,14 @@ void RadixPass(std::span<const Entry> from, Entry* to, int shift, int bits) {
 // Sorts entries that stand in the order of their indices; both runs of memory are overwritten.
 std::span<const Entry> SortByKey(std::span<Entry> entries, std::span<Entry> scratch) {
     constexpr std::size_t kWorthRadix = 1024;
+    static_assert(kRadixBits + 10 + 10 == kKeyBits);
     if (entries.size() < kWorthRadix) {
         std::sort(entries.begin(), entries.end());
         return entries;
     }
-    RadixPass(entries, scratch.data(), kKeyShift, 11);
-    RadixPass(scratch, entries.data(), kKeyShift + 11, 10);
-    RadixPass(entries, scratch.data(), kKeyShift + 21, 10);
+    RadixPass(entries, scratch.data(), kKeyShift, kRadixBits);
+    RadixPass(scratch, entries.data(), kKeyShift + kRadixBits, 10);
+    RadixPass(entries, scratch.data(), kKeyShift + kRadixBits + 10, 10);
     return scratch;
 }
 
@@ -121,8 +126,9 @@ public:
 private:
     // A bin is a range of keys by their upper bits.
     static constexpr int kBinShift = kKeyShift + 18;
-    static constexpr std::uint32_t kBins = 1U << (63 - kBinShift);
+    static constexpr std::uint32_t kBins = 1U << (kKeyShift + kKeyBits - kBinShift);
     static constexpr std::uint16_t kNoBin = kBins;
+    static_assert(kNoBin == kBins);
     static constexpr std::size_t kMostUnsliced = std::size_t{1} << 18;
     static constexpr std::size_t kLeastRoom = std::size_t{1} << 17;
     static constexpr std::size_t kMostSlices = 16;

@@ -2,6 +2,7 @@
 #include "tests/support/allkinds.h"
 #include "tests/support/archivetest.h"
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <random>
@@ -345,7 +346,32 @@ TEST(CheckSum, Fletcher) {
     for (const std::uint32_t unit : {0u, 1u, 0xFFFFu, 0x10000u, 0x80000000u, 0x12345678u, 0xFFFFFFFFu}) {
         EXPECT_EQ(AddFletcher(unit), AddFletcher(&unit, 1)) << unit;
     }
+    EXPECT_EQ(AddFletcher(0x00010002), 0x00050003U);
     EXPECT_EQ(StringCheckSum(u"ab\xFFFF"), 0x61u + 0x62 + 0xFFFF);
+}
+
+template <std::size_t N>
+void ExpectSumOfEach(std::mt19937& random) {
+    std::array<float, N> values;
+    std::uint32_t sum = 0;
+    for (float& value : values) {
+        const std::uint32_t unit = random() % 4 == 0 ? 0 : static_cast<std::uint32_t>(random());
+        value = std::bit_cast<float>(unit);
+        sum += AddFletcher(&unit, 1);
+    }
+    EXPECT_EQ(CheckSumOf(values), sum) << N;
+}
+
+// Four floats at a time, and what is left of each size of a value.
+TEST(CheckSum, OfSeveralFloatsIsTheSumOfEach) {
+    std::mt19937 random(7);
+    for (int i = 0; i < 100; ++i) {
+        ExpectSumOfEach<1>(random);
+        ExpectSumOfEach<3>(random);
+        ExpectSumOfEach<4>(random);
+        ExpectSumOfEach<9>(random);
+        ExpectSumOfEach<16>(random);
+    }
 }
 
 // Each kind adds to the sum by its own rule, which differs between the forms.

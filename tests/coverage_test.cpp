@@ -34,7 +34,7 @@ TEST_F(CoverageTest, EachTypeOfEntityHasContents) {
             types.emplace(ValueOf(content->second.front()));
         }
     }
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         EXPECT_TRUE(row->make == nullptr || types.contains('"' + Narrow(row->text) + '"')) << Narrow(row->text);
     }

@@ -47,7 +47,7 @@ std::unique_ptr<EntityDef> Make() {
 }
 
 // The order is kept for good: other tables number the types by it.
-constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
+constexpr EntityTypeRow kEntityTypeRows[] = {
     {EntityType::Ability, u"Ability", Make<AbilityDef>},
     {EntityType::Buff, u"Buff", Make<BuffDef>},
     {EntityType::EmpireWindowNode, u"EmpireWindowNode", Make<EmpireWindowNodeDef>},

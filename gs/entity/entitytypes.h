@@ -13,11 +13,10 @@ struct EntityTypeRow {
     std::unique_ptr<EntityDef> (*make)();
 };
 
-inline constexpr int kEntityTypeCount = 47;
-
 // The row of a type; null for a type out of range.
 const EntityTypeRow* FindEntityType(EntityType type);
 
+// The texts of all types.
 extern const EnumTable kEntityTypeTable;
 
 } // namespace Vorn

@@ -39,7 +39,7 @@ struct IResearchSubjectDefinition : Record {
     BrushRef uniqueOverlayBrush;
     std::int32_t dlcId = 0;
 
-    // Whether the subject wins the game; found among the Bool modifiers and no field of its own.
+    // Whether the subject wins the game: set by reading from the Bool modifiers, not stored.
     bool isVictory = false;
 
     void Fields(FieldIo& io) override;

@@ -13,7 +13,7 @@ class FileTexture;
 // got them.
 class Mesh {
 public:
-    // Passed through for the game; the converter has no use for them.
+    // How a mesh is to be loaded. Kept for whoever asked; nothing here depends on it.
     struct LoadParams {
         std::uint16_t kind = 0;
         std::int32_t values[3] = {-1, -1, -1};
@@ -112,7 +112,7 @@ public:
         DynamicArray<Triangle> triangles;
         FixedArray<VertexIndexVector, kDirectionCount> cachedVertexIndices;
 
-        // Not stored.
+        // Not stored: what Load found, values computed from the extents, and a point for those who find none by name.
         bool isLoaded = false;
         std::int32_t version = 0;
         FixedString<256> fileName;
@@ -145,7 +145,7 @@ private:
     std::int32_t m_RefCount = 0;
     bool isMock = false;
 
-    // What the renderer adds; the converter runs without one.
+    // What a renderer adds. It must have taken it back before the mesh goes: the destructor checks.
     DynamicVector<FileTexture*> m_DiffuseTexturePtrs;
     DynamicVector<FileTexture*> m_SelfIlluminationTexturePtrs;
     DynamicVector<FileTexture*> m_NormalTexturePtrs;

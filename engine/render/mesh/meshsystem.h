@@ -42,6 +42,7 @@ public:
     bool IsMock() const { return mockMode; }
 
     int MeshCount() const { return m_MeshPtrVector.Size(); }
+    // The time that all loading took so far.
     float GetLoadSeconds() const { return loadSeconds; }
 
 private:

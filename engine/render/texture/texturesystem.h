@@ -36,6 +36,7 @@ public:
     TextureSystem(const TextureSystem&) = delete;
     TextureSystem& operator=(const TextureSystem&) = delete;
 
+    // Where image files are; only its capacity of 255 units matters as long as none is looked for.
     void SetFolder(std::u16string_view path) { folder.Assign(path); }
     void SetNameOnlyTextures(bool on) { nameOnlyTextures = on; }
     bool HasNameOnlyTextures() const { return nameOnlyTextures; }

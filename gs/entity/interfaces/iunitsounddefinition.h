@@ -2,6 +2,7 @@
 
 #include "engine/archive/record.h"
 #include "engine/datastructures/fixedarray.h"
+#include "gs/entity/support/sharedenums.h"
 #include "gs/entity/support/soundid.h"
 
 namespace Vorn {
@@ -9,7 +10,7 @@ namespace Vorn {
 // What a unit says, a list of sounds for each occasion. Every sound that is read is looked up among the loaded sound
 // data and reported if it is not there; the converter loads none.
 struct IUnitSoundDefinition : Record {
-    static constexpr int kUnitSoundTypeCount = 5;
+    static constexpr int kUnitSoundTypeCount = kEnumTable<UnitSoundType>.rowCount;
 
     FixedArray<DynamicVector<SoundID>, kUnitSoundTypeCount> sounds;
 

@@ -26,7 +26,7 @@ private:
     static constexpr std::int32_t kUnresolved = -1;
 
     FixedString<kCapacity> text;
-    // The running game's cache of what the name stands for.
+    // The definition of that name, once it is looked up. A new name is not.
     std::int32_t index = kUnresolved;
 };
 

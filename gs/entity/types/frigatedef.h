@@ -48,7 +48,7 @@ struct FrigateDef : EntityDef {
     ISquadContainerDef squads;
     std::uint32_t maxNumCommandPoints = 0;
     IUnitSoundDefinition unitSound;
-    IChangeMeshDef<10> changeMesh;
+    IChangeMeshDef changeMesh;
     ParticleSimulationDefinitionRef exhaustParticleSystemName;
     ParticleSimulationDefinitionRef explosionName;
     SoundID engineSoundID;

@@ -29,7 +29,7 @@ struct PlanetModuleOrbitDef : EntityDef {
     IAutoRotateDef autoRotate;
     IShieldDefinition shield;
     IUnitSoundDefinition unitSound;
-    IChangeMeshDef<10> changeMesh;
+    IChangeMeshDef changeMesh;
     ExplosionEffectDefGroupRef explosionName;
     BrushRef mainViewIcon;
     BrushRef picture;

@@ -41,6 +41,7 @@ public:
     void Fields(FieldIo& io) override;
 
     Type GetType() const { return type; }
+    // The square that the anchor gives a particle; not stored.
     const BillboardQuad& GetBillboardQuad() const { return billboardQuad; }
 
     // Also renames the emitter in the lists of the affectors that are attached to it.

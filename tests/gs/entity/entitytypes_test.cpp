@@ -32,20 +32,20 @@ protected:
 };
 
 TEST_F(EntityTypesTest, EachTypeHasItsClassButTwo) {
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         ASSERT_NE(row, nullptr);
         const bool isRefused = row->text == u"PlanetModuleSpaceMine" || row->text == u"PlanetModuleUserAbilityModule";
         EXPECT_EQ(row->make == nullptr, isRefused) << Utf8(row->text);
     }
     EXPECT_EQ(FindEntityType(EntityType::Invalid), nullptr);
-    EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeCount)), nullptr);
+    EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeTable.rowCount)), nullptr);
 }
 
 // Other tables number the types by their order.
 TEST_F(EntityTypesTest, TheOrderIsKeptForGood) {
     std::string order;
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         order += Utf8(FindEntityType(static_cast<EntityType>(i))->text) + " ";
     }
     EXPECT_EQ(order, "Ability Buff EmpireWindowNode Fighter Squad Debris Weapon CannonShell CapitalShip Cosmetic "
@@ -59,7 +59,7 @@ TEST_F(EntityTypesTest, TheOrderIsKeptForGood) {
 }
 
 TEST_F(EntityTypesTest, AnEmptyDefinitionOfEachTypeSurvivesBothForms) {
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         if (row->make == nullptr) {
             continue;

@@ -18,7 +18,7 @@ std::string Narrow(std::u16string_view text) {
     return {text.begin(), text.end()};
 }
 
-// What must not be forgotten when something is added.
+// What must be complete when something is added.
 class CoverageTest : public testing::Test {
 protected:
     static std::string FileIn(const fs::path& path) { return ReadBytes(fs::path(KELVANE_SOURCES) / path).value_or(""); }

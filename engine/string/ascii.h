@@ -83,7 +83,7 @@ VORN_ALWAYS_INLINE Ends NarrowEnds(__m128i units) {
     return static_cast<Ends>(_mm_cvtsi128_si64(_mm_packus_epi16(units, units)));
 }
 
-// Whether a text of `count` units, between the sizes of `Half` and `Ends`, stands in the bytes.
+// Whether a text of `count` units, between the sizes of `Half` and `Ends`, equals the bytes.
 template <class Ends, class Half>
 VORN_ALWAYS_INLINE bool EqualsEnds(const char* bytes, const char16_t* units, std::size_t count) {
     const Ends ends = Load<Half>(bytes) | Ends{Load<Half>(bytes + count - sizeof(Half))} << (8 * sizeof(Half));

@@ -22,17 +22,17 @@ char* PutHex64(char* out, std::uint64_t value);
 // PutFixed with six places, for the floats that content files are made of.
 char* PutFixed6(char* out, float value);
 
-// Most numbers, in a few instructions each. Some bytes behind the text are overwritten.
+// The fast path for most numbers. Some bytes after the text are overwritten.
 namespace PlainNumber {
 
 inline constexpr std::uint32_t kThousand = 1000;
 inline constexpr std::uint32_t kMillion = 1000000;
 
-// How a number below 1000 is put.
+// The texts of a number below 1000.
 struct Text {
     // Three digits.
     char padded[4];
-    // As many as it takes, and behind the third place how many that are.
+    // No more digits than needed, and in the fourth place their number.
     char digits[4];
 };
 
@@ -86,7 +86,7 @@ constexpr std::uint32_t MagnitudeBits(float value) {
     return std::bit_cast<std::uint32_t>(value) & 0x7FFFFFFF;
 }
 
-// The bits of positive floats sort like the floats, with everything that is not finite on top.
+// The bits of positive floats have the same order as the floats, and infinity and NaN are above all.
 VORN_ALWAYS_INLINE bool FitsFixed6(float value) {
     return MagnitudeBits(value) < MagnitudeBits(static_cast<float>(kMillion));
 }

@@ -5,10 +5,10 @@
 
 namespace Vorn {
 
-// Takes values straight from the bytes of a text file in exactly the form that they are written in, step by step like
-// Scanner. A step that meets any other form, valid or not, ends it, and the caller takes the slow path with the whole
-// line; so nothing here has to tell good from bad. Needs kPlainSlack readable bytes behind the text, the first of them
-// 0. What it takes is always shorter than kLongestPlainLine.
+// The fast path of reading: scans the bytes of a text file step by step like Scanner, but accepts only the form in
+// which values are written. A step that finds any other form, valid or not, fails, and the caller uses the slow path
+// for the whole line. Needs kPlainSlack readable bytes after the text, the first of them 0. An accepted line is shorter
+// than kLongestPlainLine.
 inline constexpr std::size_t kPlainSlack = 96;
 inline constexpr std::size_t kLongestPlainLine = 1024;
 
@@ -18,7 +18,8 @@ public:
 
     const char* Cursor() const { return cursor; }
 
-    // Up to seven. Counted by branches, which are foreseen, where a computed count would hold up what follows.
+    // Up to seven. Branches are faster here than a computed count: they are predicted well, and what follows need not
+    // wait.
     VORN_ALWAYS_INLINE PlainScanner& Tabs() {
         for (const char* limit = cursor + 7; *cursor == '\t' && cursor != limit;) {
             ++cursor;
@@ -37,7 +38,7 @@ public:
         return *this;
     }
 
-    // A text that leaves some of the slack.
+    // A text of at most kLongestWord bytes.
     VORN_ALWAYS_INLINE PlainScanner& Word(std::u16string_view word) {
         if (word.size() > kLongestWord || !EqualsAscii(cursor, word)) [[unlikely]] {
             return Fail();
@@ -46,7 +47,7 @@ public:
         return *this;
     }
 
-    // Up to seven digits. More stay where they are and end the next step, since none begins with a digit.
+    // Up to seven digits. Further digits make the next step fail, since no step begins with a digit.
     VORN_ALWAYS_INLINE PlainScanner& Int(std::int32_t& value) {
         const char* start = cursor;
         const bool negative = *start == '-';
@@ -72,8 +73,9 @@ public:
         if (!(start[1] == '.' ? ShortMillionths(start, millionths) : LongMillionths(start, millionths))) [[unlikely]] {
             return Fail();
         }
-        // To round to 64 bits first does no harm: six decimals are either the middle between two floats or farther from
-        // it than that rounding goes. The sign needs no branch, which could hardly be foreseen.
+        // Rounding to 64 bits first is harmless: a number with six decimals is either exactly in the middle between two
+        // floats or farther from it than the rounding error. The sign is set without a branch, which would be predicted
+        // badly.
         const auto magnitude = static_cast<float>(static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6);
         value = std::bit_cast<float>(std::bit_cast<std::uint32_t>(magnitude) | std::uint32_t{negative} << 31);
         return *this;
@@ -94,7 +96,7 @@ public:
         return *this;
     }
 
-    // A quoted text that fits a buffer of `bufferSize` units with some room to spare.
+    // A quoted text that leaves kWidenBlock units free in a buffer of `bufferSize` units.
     PlainScanner& Quoted(char16_t* buffer, int bufferSize) {
         constexpr int kRoom = static_cast<int>(kWidenBlock);
         if (*cursor != '"' || bufferSize <= kRoom) [[unlikely]] {
@@ -111,7 +113,7 @@ public:
         return *this;
     }
 
-    // Whether the line ends here and all steps so far met their form.
+    // Whether the line ends here and no step has failed.
     VORN_ALWAYS_INLINE bool LineEnd() {
         const bool hasReturn = std::memcmp(cursor, "\r\n", 2) == 0;
         if (!hasReturn && *cursor != '\n') [[unlikely]] {
@@ -128,7 +130,7 @@ private:
     // With it BytesBelow finds seven bytes at most.
     static constexpr std::uint64_t kLastByte = std::uint64_t{0x80} << 56;
 
-    // No step fits what follows but an empty word or text.
+    // What a failed scanner points to: only an empty word matches here.
     static constexpr char kNothing[kPlainSlack] = {};
 
     PlainScanner& Fail() {

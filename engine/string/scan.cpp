@@ -53,7 +53,7 @@ std::uint64_t TakeDigits(const char16_t*& p, std::uint64_t number) {
     return number;
 }
 
-// Appends four digits at once if there are as many. Needs a platform that stores the lowest byte first.
+// Appends four digits at once if all four units are digits. For little-endian platforms.
 void TakeFourDigits(const char16_t*& p, std::uint64_t& number) {
     std::uint64_t lanes = 0;
     std::memcpy(&lanes, p, sizeof lanes);
@@ -120,7 +120,7 @@ bool ScanWord(const char16_t*& cursor, Real& value) {
         return true;
     }
     if (StartsWithWord(p, u"nan")) {
-        // Not the product with the sign: the sign bit of a product with a not-a-number is anybody's.
+        // Not the product with the sign: the sign bit of a product with NaN is not defined.
         using Bits = std::conditional_t<sizeof(Real) == 4, std::uint32_t, std::uint64_t>;
         constexpr Bits kSignBit = Bits{1} << (sizeof(Bits) * 8 - 1);
         value = std::bit_cast<Real>(std::bit_cast<Bits>(std::numeric_limits<Real>::quiet_NaN()) |
@@ -152,7 +152,7 @@ bool IsHuge(std::string_view text) {
     return point - first + power > 0;
 }
 
-// The slow path: the library's exact conversion of the text as it stands.
+// The slow path: the exact conversion of the standard library.
 template <class Real>
 bool ScanReal(const char16_t*& cursor, Real& value) {
     const char16_t* p = SkipWhiteSpace(cursor);
@@ -220,7 +220,7 @@ bool Scanner::ScanHex(std::uint32_t& value) {
     return true;
 }
 
-// Takes short numbers without an exponent, which is nearly all, straight from their digits.
+// The fast path is for short numbers without an exponent, which nearly all are.
 bool Scanner::ScanFloat(float& value) {
     constexpr std::ptrdiff_t kExactDigits = 19;
     const char16_t* p = SkipWhiteSpace(cursor);

@@ -6,7 +6,8 @@
 
 namespace Vorn {
 
-// A row of the factory: a type, its text in files and the maker of its class, null for a type that no file may have.
+// A row of the factory: a type, its text in files and the function that creates its class, null for a type that no
+// file may have.
 struct EntityTypeRow {
     EntityType value;
     std::u16string_view text;

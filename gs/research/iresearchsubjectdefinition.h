@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// What a subject of research costs, needs and changes, and where it stands in the research window. A place, a tier or a
+// What a subject of research costs, needs and changes, and its place in the research window. A place, a tier or a
 // number of levels that do not suit its field are reported and kept.
 struct IResearchSubjectDefinition : Record {
     // A block of the window and the column and row in it.

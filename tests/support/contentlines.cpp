@@ -37,7 +37,7 @@ struct Range {
     std::size_t end;
 };
 
-// Takes "PATH" or "PATH to PATH" off a text: the lines from the first to the end of the last block.
+// Removes "PATH" or "PATH to PATH" from a text: the lines from the first one to the end of the last block.
 Range TakeRange(const Lines& lines, std::string_view& rest) {
     const std::size_t begin = FindLine(lines, TakeWord(rest));
     if (!rest.starts_with("to ")) {
@@ -105,7 +105,7 @@ void Keep(Lines& lines, std::string_view rest, const Lines& given) {
     lines.erase(std::remove_if(lines.begin(), lines.end(), std::not_fn(HasKey(rest, given))), lines.end());
 }
 
-// Zeros with the signs of a number or of several in brackets.
+// Zeros in the same notation as a number, or as several in brackets.
 std::string Zeros(std::string_view numbers) {
     if (numbers.starts_with('[')) {
         std::string zeros;

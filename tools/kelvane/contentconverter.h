@@ -16,15 +16,15 @@ enum class ConversionResult {
     Ended
 };
 
-// Converts contents one after the other from memory into memory, into the bytes that the converter writes, whatever was
-// converted before. Reports are dropped. Each thread needs its own.
+// Converts contents from memory to memory. The result is what the converter writes, and independent of earlier
+// conversions. Reports are dropped. Each thread needs its own.
 class ContentConverter {
 public:
-    // Converts the content of a file; of its name, what follows the folders names an entity definition.
+    // Converts the content of a file. The file name without folders is the name of an entity definition.
     ConversionResult Convert(ContentKind kind, std::string_view fileName, std::string_view source,
                              FileArchiveType form);
 
-    // What came of the last conversion.
+    // The result of the last conversion.
     std::string_view Bytes() const { return destination; }
 
 private:

@@ -5,7 +5,8 @@
 
 namespace Vorn {
 
-// The recipe of one particle effect: its lifetime in seconds, and its emitters and affectors in the order of the file.
+// The definition of one particle effect: its lifetime in seconds, and its emitters and affectors in the order of the
+// file.
 class ParticleSimulationDefinition : public Record {
 public:
     static constexpr int kMaxEmitters = 32;
@@ -30,7 +31,7 @@ public:
     int GetAffectorCount() const { return affectors.Size(); }
     const ParticleAffector& GetAffector(int i) const { return *affectors[i]; }
 
-    // Carries an emitter's new name into the affectors that are attached to it.
+    // Renames an emitter in the affectors that are attached to it.
     void RenameAttachedEmitter(std::u16string_view oldName, std::u16string_view newName);
 
     // Cuts the names of all emitters' files down to name and extension.

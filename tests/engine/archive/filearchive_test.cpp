@@ -53,7 +53,7 @@ TEST_F(FileArchiveTest, TextFormOfEveryKind) {
     EXPECT_EQ(written, kPlainText);
     AllKinds read;
     Read(std::string(kTextHeader) + written, FieldsOf(read));
-    // The string is cut at the first quote inside; all else comes back.
+    // The string is cut at its first quote; all other fields are read back unchanged.
     EXPECT_EQ(read.string.View(), u"a ");
     read.string = all.string;
     EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(read)), kPlainText);
@@ -99,7 +99,7 @@ TEST_F(FileArchiveTest, BinaryFormOfEveryKind) {
     Read(std::string(kBinaryHeader) + written, FieldsOf(read));
     EXPECT_EQ(read.string.View(), all.string.View());
     EXPECT_EQ(Written(FileArchiveType::Binary, FieldsOf(read)), written);
-    // Cut anywhere, it reads to its end and says so.
+    // Wherever the file is cut, all fields are read, and the end is reported.
     for (std::size_t length = 0; length < written.size(); ++length) {
         AllKinds cut;
         Read(std::string(kBinaryHeader) + written.substr(0, length), FieldsOf(cut));
@@ -157,7 +157,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.kind) + " " + row.value);
         AllKinds read = all;
-        // All lines stand as written but for the one of the kind.
+        // All lines are as written except that of the kind.
         const auto replaced = [&](const std::string& value) {
             const std::size_t start = plain.find("\r\n" + std::string(row.kind) + " ") + 3 + std::strlen(row.kind);
             return std::string(plain).replace(start, plain.find("\r\n", start) - start, value).substr(2);
@@ -172,7 +172,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     }
 }
 
-// Plain bytes are read by a fast path and units of other encodings by the slow one; both must agree.
+// Plain bytes are read by the fast path and other encodings by the slow one; the results must be the same.
 TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -201,7 +201,7 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     }
 }
 
-// The fast path has an arithmetic of its own; the library gives what it must come to.
+// The fast path computes numbers by itself; the standard library gives the expected values.
 TEST_F(FileArchiveTest, NumbersOfAllLengths) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -214,7 +214,7 @@ TEST_F(FileArchiveTest, NumbersOfAllLengths) {
         return text;
     };
     const auto sign = [&] { return std::string(random() % 2, '-'); };
-    // The first ones stand in the middle between two floats.
+    // The first ones are exactly in the middle between two floats.
     std::vector<std::string> floats = {"16777217.000000", "-16777219.000000", "8388608.500000", "268435472.000000",
                                        "0.000000",        "-0.000000",        "9.999999",       "10.000000"};
     std::vector<std::string> ints = {"2147483647", "-2147483648", "0000000", "-0"};
@@ -292,7 +292,7 @@ TEST_F(FileArchiveTest, LabelsAndLines) {
     }
 }
 
-// The last line stays for examination, again and again, also after other labels failed on it.
+// The last line stays the current one and can be read any number of times, even after other labels did not match it.
 TEST_F(FileArchiveTest, LastLineServesItsLabelForEver) {
     DynamicVector<FixedString<20>> sounds;
     std::int32_t other = 5;
@@ -307,7 +307,7 @@ TEST_F(FileArchiveTest, LastLineServesItsLabelForEver) {
     EXPECT_EQ(std::count(sounds.begin(), sounds.end(), FixedString<20>(u"a")), 4);
 }
 
-// Rows take fresh lines whatever they hold, and the old one again at the end of the file.
+// Each row is read from the next line, whatever its content, and at the end of the file from the last line again.
 TEST_F(FileArchiveTest, MatrixRowsHaveNoLabel) {
     Matrix33 matrix;
     std::int32_t behind = 0;
@@ -374,7 +374,7 @@ TEST(CheckSum, OfSeveralFloatsIsTheSumOfEach) {
     }
 }
 
-// Each kind adds to the sum by its own rule, which differs between the forms.
+// Each kind has its own rule for the sum, which may differ between the forms.
 TEST_F(FileArchiveTest, CheckSumsOfBothForms) {
     constexpr std::uint32_t kHalf = 0x3F003F00;
     constexpr std::uint32_t kOne = 0x3F803F80;

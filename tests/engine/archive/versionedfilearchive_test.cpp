@@ -35,10 +35,10 @@ protected:
         EngineTest::Handle(file, isFailure ? line : -1, text, isFailure);
     }
 
-    // A settings file with these lines behind its header.
+    // A settings file with these lines after its header.
     void PutSettings(std::string_view lines) { Put("settings", kHeader + std::string(lines)); }
 
-    // Opens the settings and tells their volume and the versions that were read.
+    // Opens the settings and checks their volume and the versions that were read.
     void ExpectOpened(std::string_view fileName, std::int32_t volume, const std::vector<std::uint32_t>& versions) {
         Settings settings(core->fileArchiveSystem, NameIn(fileName), kVersion);
         settings.Open();
@@ -81,7 +81,7 @@ TEST_F(VersionedFileArchiveTest, NoArchive) {
     ExpectNewFile("50");
 }
 
-// What an old file holds is taken over into the new one.
+// The values of an old file are kept in the new one.
 TEST_F(VersionedFileArchiveTest, OldVersion) {
     PutSettings("Version 2\nvolume 70\n");
     ExpectOpened("settings", 70, {2, 3});

@@ -8,7 +8,7 @@ namespace Vorn {
 
 namespace {
 
-// Counts its living objects, so that a container that loses or doubles one is found.
+// Counts its objects, so that a container that loses or doubles one is detected.
 struct Element {
     Element() { ++living; }
     Element(int _value) : value(_value) { ++living; }

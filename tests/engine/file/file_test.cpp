@@ -23,7 +23,7 @@ TEST_F(FileSystemTest, WritesTextWithMarkAndLineEnds) {
     EXPECT_EQ(core->fileSystem.OpenCount(), 0);
 }
 
-// Pieces and blocks of the way out, with pairs and line feeds across their borders.
+// Pieces and blocks of the output, with surrogate pairs and line feeds across their borders.
 TEST_F(FileSystemTest, WritesLongText) {
     for (std::size_t shift = 0; shift < 6; ++shift) {
         std::u16string text(shift, u'x');

@@ -15,7 +15,7 @@ struct Content {
     std::string bytes;
 };
 
-// All samples, and all sources of all cases.
+// All samples, and the sources of all cases.
 std::vector<Content> AllContents() {
     std::vector<Content> contents;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(KELVANE_SAMPLES)) {

@@ -203,7 +203,7 @@ TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
     EXPECT_EQ(check("signal-buoy.mesh", "Color 0", "Color ff0000ff"), "34 not-kept MeshData.Vertex[0].Color\n");
     EXPECT_EQ(check("frigate_lancer.entity", "slotCount 6.000000", "slotCount 6.12345678"),
               "59 lost-decimals slotCount\n");
-    EXPECT_EQ(check("frigate_lancer.entity", "Version 194", "Version 195"), "2 newer-version ZephArchiveVersion\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "Version 1", "Version 91"), "2 newer-version ZephArchiveVersion\n");
     EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "296 not-kept ability:0\n");
     EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
               "356 index-out-of-range MeshData.Triangle[0].iVertex0\n");

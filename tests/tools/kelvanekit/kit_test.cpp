@@ -151,7 +151,7 @@ TEST_F(KitTest, FindingsAreLimitedDisabledAndRaised) {
     EXPECT_EQ(limited.reports, "4 errors, 0 warnings in 2 files, of which 3 are shown\n");
     const ProcessResult disabled = Run({"check", "--disable", "bad-boolean", "--disable", "number-with-rest", "."});
     EXPECT_EQ(disabled.status, 0) << disabled.output;
-    Put("c.brushes", "TXT2\nZephArchiveVersion 195\nonlyLoadOnDemand FALSE\nbrushCount 0\n");
+    Put("c.brushes", "TXT2\nZephArchiveVersion 9999\nonlyLoadOnDemand FALSE\nbrushCount 0\n");
     EXPECT_EQ(Run({"check", "c.brushes"}).reports, "0 errors, 1 warning in 1 file\n");
     EXPECT_EQ(Run({"check", "--warnings-as-errors", "c.brushes"}).reports, "1 error, 0 warnings in 1 file\n");
 }

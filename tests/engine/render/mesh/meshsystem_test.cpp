@@ -1,4 +1,6 @@
 #include "engine/render/mesh/meshsystem.h"
+
+#include "engine/archive/archiveversion.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {
@@ -31,7 +33,7 @@ TEST_F(MeshSystemTest, KeepsOneMeshForEachFile) {
     EXPECT_NE(first, second);
     EXPECT_EQ(first->GetRefCount(), 2);
     EXPECT_EQ(first->data.BoundingRadius, 12.0f);
-    EXPECT_EQ(first->data.version, 194);
+    EXPECT_EQ(first->data.version, kArchiveVersion);
     EXPECT_EQ(Utf8(second->data.fileName.View()), Utf8(buoy));
     Meshes().ReleaseMesh(first);
     Meshes().ReleaseMesh(first);

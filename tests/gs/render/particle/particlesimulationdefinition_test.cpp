@@ -80,7 +80,7 @@ TEST_F(ParticleSimulationDefinitionTest, AnchorsChooseTheQuad) {
     EXPECT_EQ(TakeReports(), Reports{Check("false")});
 }
 
-// Stands for the end of the process.
+// Thrown instead of ending the process.
 struct End {};
 
 class CaughtEnd final : public EndGuard {

@@ -26,15 +26,15 @@ bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     return static_cast<bool>(archive);
 }
 
-// A source that cannot be opened ends the process, before the destination.
+// A source that cannot be opened ends the process, before the destination is opened.
 void EndIfUnopened(const Core& core) {
     if (core.fileArchiveSystem.GetOpenFailure() == OpenFailure::CannotOpen) {
         EndAbnormally();
     }
 }
 
-// A mesh that was found and cannot be loaded ends the process, before the destination. One that was not found ends it
-// where it would be written, with the destination open.
+// A mesh that was found and cannot be loaded ends the process before the destination is opened. One that was not found
+// ends it when it would be written, after the destination was opened.
 void ConvertMesh(Core& core, const Conversion& conversion) {
     Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
     if (core.fileArchiveSystem.GetOpenFailure() != OpenFailure::None) {

@@ -98,7 +98,7 @@ public:
     void Record(Label label, Archivable& value) { Transfer(label, value); }
 
     // A record whose fields are at this level, without a label.
-    void Block(class Record& block);
+    void Block(Vorn::Record& block);
 
     // The entry of a list whose elements are one field under one label each: `io.BoundedList(u"NumWeapons", weapons,
     // io.Records(u"Weapon"))`.

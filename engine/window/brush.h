@@ -69,7 +69,7 @@ public:
         bool HasTextureOf(const StateInfo& other) const;
 
         FileTexture* texture = nullptr;
-        struct Rectangle pixelBox = {-1, -1, -1, -1};
+        Rectangle pixelBox = {-1, -1, -1, -1};
     };
 
     void Fields(FieldIo& io) override;

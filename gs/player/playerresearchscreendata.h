@@ -11,7 +11,7 @@ namespace Vorn {
 struct PlayerResearchScreenData : Record {
     // A part of a page that groups subjects.
     struct BlockInfo : Record {
-        struct Rectangle area;
+        Rectangle area;
         BrushRef backdrop;
         BrushRef tierIndicatorBackdrop;
         FixedString<256> title;

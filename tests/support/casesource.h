@@ -13,6 +13,9 @@ std::string Header(bool isBinary, const std::string& version);
 // The header of the files that are written now.
 std::string CurrentHeader(bool isBinary);
 
+// A text file in the version that is written now. Contents keep the version that they were made in.
+std::string InCurrentVersion(std::string_view text);
+
 // The bytes of each line in a file.
 std::vector<std::string> FieldsOf(bool isBinary, const Lines& lines);
 std::string Joined(const std::vector<std::string>& fields);

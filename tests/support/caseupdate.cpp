@@ -56,7 +56,7 @@ public:
 
 private:
     static bool IsSameKey(const std::string& line, const std::string& other) {
-        return KeyOf(line) == KeyOf(other) && DepthOf(line) == DepthOf(other);
+        return KeyOfLine(line) == KeyOfLine(other) && DepthOf(line) == DepthOf(other);
     }
 
     void Tell(const std::string& change) { result.push_back("out " + change); }

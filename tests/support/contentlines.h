@@ -10,7 +10,7 @@ namespace Vorn {
 using Lines = std::vector<std::string>;
 
 // The first word of a line.
-std::string_view KeyOf(std::string_view line);
+std::string_view KeyOfLine(std::string_view line);
 // What follows the key and a blank.
 std::string_view ValueOf(std::string_view line);
 // The number of tabs before the key.

@@ -122,7 +122,10 @@ TEST_F(FileArchiveTest, ValuesInText) {
         const char* result;
         Reports reports = {};
     };
-    const std::string quote = "\" not found wrapping data string: string\nFileName: ";
+    const auto unquoted = [&](const char* value) {
+        return "\" not found wrapping data string: string\nFileName: " + Utf8(NameIn("source")) +
+               "\nLine #: 16\nLine Content: string " + value + "\n";
+    };
     const Row rows[] = {
         {"int", "12abc", "12"},
         {"int", "abc", "-7", {Check("result == 1")}},
@@ -148,6 +151,8 @@ TEST_F(FileArchiveTest, ValuesInText) {
         {"vector3", "[ 4 ]", "[ 4.000000 -2.000000 0.000000 ]", {Check("result == 3")}},
         {"quad", "[ 1 2 3, 4 ]", "[ 1.000000 2.000000 3.000000 1000000000.000000 ]", {Check("result == 4")}},
         {"string", "\"\"", "\"\""},
+        {"string", "none", "\"\"", {unquoted("none")}},
+        {"string", "\"open", "\"open\r\n\"", {unquoted("\"open")}},
         {"string", "see \"this\" \"that\"", "\"this\""},
         {"string", "\"1234567890123456789\"", "\"1234567890123456789\""},
         {"string", "\"123456789012345678901\"", "\"1234567890123456789\"",

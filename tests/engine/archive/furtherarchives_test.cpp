@@ -334,6 +334,12 @@ TEST_F(FurtherArchivesTest, TheEndOfTheRemoteStorage) {
     goBackFromEnd(10);
     archive->Read(u"", text.Buffer().m_Buffer, 4);
     EXPECT_EQ(text.View(), u"all");
+    goBackFromEnd(4);
+    archive->Write(u"", std::int32_t{2});
+    goBackFromEnd(4);
+    archive->Read(u"", text.Buffer().m_Buffer, 4);
+    EXPECT_EQ(TakeReports(), Reports{Check("false")});
+    EXPECT_EQ(text.View(), u"all") << "there is only the count";
     storage.MovePlace(100);
     archive->Write(u"", std::int64_t{1});
     EXPECT_EQ(TakeReports(), Reports{Check("false")});

@@ -22,7 +22,7 @@ public:
     }
     void Write(Archive& archive) const override { archive.Write(u"volume", volume); }
 
-    std::int32_t volume = 50;
+    float volume = 50.0f;
     std::vector<std::uint32_t> versionsRead;
 };
 
@@ -39,7 +39,7 @@ protected:
     void PutSettings(std::string_view lines) { Put("settings", kHeader + std::string(lines)); }
 
     // Opens the settings and checks their volume and the versions that were read.
-    void ExpectOpened(std::string_view fileName, std::int32_t volume, const std::vector<std::uint32_t>& versions) {
+    void ExpectOpened(std::string_view fileName, float volume, const std::vector<std::uint32_t>& versions) {
         Settings settings(core->fileArchiveSystem, NameIn(fileName), kVersion);
         settings.Open();
         EXPECT_EQ(settings.volume, volume);
@@ -48,7 +48,7 @@ protected:
 
     void ExpectNewFile(std::string_view volume) {
         EXPECT_EQ(ReadBytes(folder.Path() / "settings"),
-                  kHeader + "Version 3\r\nvolume " + std::string(volume) + "\r\n");
+                  kHeader + "Version 3\r\nvolume " + std::string(volume) + ".000000\r\n");
     }
 
     std::string NotFound(std::string_view name) {

@@ -109,6 +109,7 @@ TEST_F(LineReaderTest, MarksPickTheEncoding) {
                             "b"),
                   Lines({u"a\xFFFD"}));
         EXPECT_EQ(TakeMissingLineEnds(), 1u);
+        EXPECT_EQ(ReadLines(Utf16(u"\xFEFF標\n", big)), Lines({u"標\n"})) << "no byte of it is 0 or above 127";
     }
 }
 

@@ -43,6 +43,20 @@ TEST_F(MeshSystemTest, KeepsOneMeshForEachFile) {
     EXPECT_EQ(Meshes().MeshCount(), 0);
 }
 
+TEST_F(MeshSystemTest, MarksTheLogoOfATeam) {
+    Mesh::Data data;
+    data.materials.Resize(2);
+    data.materials[0].teamColorTextureFileName.Assign(u"Hull.dds");
+    data.materials[1].teamColorTextureFileName.Assign(u"art\\TeamLogo.dds");
+    FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn("x.mesh"), false, FileArchiveType::Text);
+    archive->Write(Mesh::Data::kLabel, data);
+    core->fileArchiveSystem.Close(archive);
+    Mesh* mesh = Meshes().GetMesh(NameIn("x.mesh"), {});
+    EXPECT_FALSE(mesh->data.materials[0].isTeamLogo);
+    EXPECT_TRUE(mesh->data.materials[1].isTeamLogo);
+    Meshes().ReleaseMesh(mesh);
+}
+
 TEST_F(MeshSystemTest, ReportsHoldersThatForgotAMeshOrGaveItBackTwice) {
     Meshes().GetMesh(PutMesh("kept.mesh", 1.0f), {});
     Meshes().FreeAll();

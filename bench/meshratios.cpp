@@ -1,7 +1,7 @@
 // Measures conversions of synthetic meshes by a built converter: meshratios KELVANE [VERTICES...]
 //
 // A line a mesh: whole processes against bare loops over the same numbers, the time of the index lists, and the peak of
-// memory beyond the arrays of the record. With valgrind at hand the first line tells instructions for each float.
+// memory beyond the arrays of the record. With valgrind the first line has the instructions for each float.
 
 #include "bench/syntheticmesh.h"
 #include "engine/string/utf8.h"
@@ -101,7 +101,7 @@ Conversion Convert(const std::string& kelvane, const fs::path& source, const fs:
     for (int i = 0; i < kRuns; ++i) {
         rusage usage = {};
         int status = 1;
-        // To truncate a large file takes the platform as long as some of the conversion.
+        // Truncating a large file would take as long as a part of the conversion.
         fs::remove(destination);
         const double seconds = Seconds([&] {
             // The peak of a process counts from its fork, so this one must be small by then.

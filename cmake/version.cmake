@@ -1,4 +1,4 @@
-# The version stands in project() of the top CMakeLists.txt. Programs get it from here, with kelvane_version, and show it
+# The version is set by project() in the top CMakeLists.txt. Programs get it from here, with kelvane_version, and show it
 # to Windows as a resource.
 set(generatedDirectory ${PROJECT_BINARY_DIR}/generated)
 configure_file(cmake/version.h.in ${generatedDirectory}/tools/version.h @ONLY)

@@ -22,7 +22,7 @@ struct Outcome {
     ProcessResult process;
 };
 
-// A conversion in this process, after many others, gives what a process of its own gave.
+// A conversion in this process, after many others, has the same result as one in a process of its own.
 void CompareInProcess(const std::string& type, const std::string& source, const std::string& form,
                       const Outcome& expected) {
     static ContentConverter converter;
@@ -68,12 +68,12 @@ public:
     }
 
 private:
-    // Two levels below the scratch folder, where the search for data files finds nothing.
+    // Two levels below the scratch folder, so that the search for data files stays inside.
     fs::path Folder() const { return scratch.Path() / "a" / "b"; }
 
     const Lines& Base() const { return BaseOf(file, tested); }
 
-    // Texts that nothing depends on come out as they are.
+    // Texts that no other field depends on are written unchanged.
     void RunEach() const {
         const Source source(tested, Base(), false);
         for (std::string_view words : tested.eachWords) {
@@ -210,7 +210,7 @@ private:
         }
     }
 
-    // Makes what comes out now the expected part of the case.
+    // Replaces the expectations of the case by the current results.
     void Update() {
         const Source source(tested, Base(), !HasSource(tested, false));
         const Outcome text = Convert(source.Bytes(), "txt");
@@ -246,12 +246,12 @@ private:
     const Case& tested;
     const TempFolder scratch;
     Lines result;
-    // The bytes of lines that are not those of their spelling, by the form.
+    // By form and line, bytes that differ from those that the line stands for.
     std::map<std::string, std::map<std::string, std::string>> rawFields;
 };
 
-// A sample comes out as it is, but that one of an older version has what is new since then: all its lines stand in the
-// result, in their order.
+// A sample is written unchanged. The result of a sample of an older version has additional lines: those of the sample
+// are among them, in the same order.
 class SampleTest : public testing::Test {
 public:
     explicit SampleTest(fs::path _source) : source(std::move(_source)) {}

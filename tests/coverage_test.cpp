@@ -18,7 +18,7 @@ std::string Narrow(std::u16string_view text) {
     return {text.begin(), text.end()};
 }
 
-// What must not be forgotten when something is added.
+// What must be complete when something is added.
 class CoverageTest : public testing::Test {
 protected:
     static std::string FileIn(const fs::path& path) { return ReadBytes(fs::path(KELVANE_SOURCES) / path).value_or(""); }
@@ -34,7 +34,7 @@ TEST_F(CoverageTest, EachTypeOfEntityHasContents) {
             types.emplace(ValueOf(content->second.front()));
         }
     }
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         EXPECT_TRUE(row->make == nullptr || types.contains('"' + Narrow(row->text) + '"')) << Narrow(row->text);
     }

@@ -6,7 +6,7 @@
 
 namespace Vorn {
 
-// Files hold what comes of rounding every single operation to its type.
+// Every single operation must be rounded to its type, or files would differ between platforms.
 static_assert(FLT_EVAL_METHOD == 0, "floating-point evaluation is wider than its types");
 
 void Archive::Read(Label label, std::uint32_t& value, int) {

@@ -39,26 +39,26 @@ public:
     // The version of the file that is read, kNoVersion for an old file or one that is written.
     std::int32_t GetVersion() const { return version; }
 
-    // May be set only once; a second setting fires its check and goes on.
+    // May be set only once; a second call fires its check and still sets it.
     void SetVersion(std::int32_t _version);
 
     // What the records read and written through this archive need from outside; null until it is set. Not owned.
     const FieldContext* GetContext() const { return context; }
     void SetContext(const FieldContext* _context) { context = _context; }
 
-    // Who follows the fields that are read, or null. Not owned.
+    // Is called for the fields that are read, or null. Not owned.
     FieldObserver* GetObserver() const { return observer; }
     void SetObserver(FieldObserver* _observer) { observer = _observer; }
 
-    // True once so many reads found nothing new, with the reports that came of them, that no counted loop should go on:
-    // a damaged count must not keep the process busy for hours.
+    // True after so many idle reads, with the reports that they caused, that no counted loop should continue: a damaged
+    // count must not keep the process busy for hours.
     bool IsExhausted() const { return idleWork > kMaxIdleWork; }
 
     // The bytes of what is read, or at least those that were read so far; 0 for an archive that is no file.
     virtual std::uint64_t GetSourceSize() const { return 0; }
 
 protected:
-    // An idle read finds its file at its end, or the line that it finds was read before. Counts for itself and with
+    // An idle read is one at the end of the file, or one whose line was read before. Each counts as 1, plus the cost of
     // what is reported from here to the next read, see GetReportCost.
     void CountIdleRead();
     // A read found something new.

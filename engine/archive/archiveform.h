@@ -5,7 +5,7 @@
 namespace Vorn {
 
 // Overrides the Read and Write of each kind of a list for the class `Form` by its ReadValue and WriteValue, which are
-// chosen by the type of the value: most forms have one for all values that are words.
+// chosen by the type of the value: most forms have one for all values that are made of 32-bit words.
 template <class Form, class Base, class List>
 class ValueOverrides;
 
@@ -32,7 +32,7 @@ public:
 };
 
 // The base of an archive form. A form adds ReadValue and WriteValue for its values and overrides the operations on
-// texts; records and values of one line are theirs to transfer unless it overrides those too.
+// texts. Records and values of one line transfer themselves unless it overrides those too.
 template <class Form, class Base = Archive>
 class ArchiveForm : public ValueOverrides<Form, Base, ArchiveValues> {
     using Overrides = ValueOverrides<Form, Base, ArchiveValues>;

@@ -2,7 +2,7 @@
 
 #include "engine/archive/archiveform.h"
 
-// The bodies of ArchiveForm, for the file that holds the constructor and the values of a form.
+// The bodies of ArchiveForm, included by the file that defines a form.
 
 namespace Vorn {
 

@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// What stands in front of a content file's fields. A binary file begins with the first three bytes of its header, and
-// the first line of a text file has the mark in it; files with a version have it behind the header, and a 2 in either.
+// The header of a content file. A binary file begins with the first three bytes of kBinaryHeader, and the first line of
+// a text file contains kTextMark. A 2 in the header means that the version follows it.
 inline constexpr Label kVersionLabel = u"ZephArchiveVersion";
 inline constexpr unsigned char kBinaryHeader[] = {'B', 'I', 'N', '2', '\n'};
 inline constexpr int kBinaryMarkSize = 3;
@@ -14,7 +14,7 @@ inline constexpr std::u16string_view kTextHeader = u"TXT2";
 inline constexpr std::u16string_view kTextMark = u"TXT";
 inline constexpr char16_t kVersionMark = u'2';
 
-// Units of a text file's first line that are looked at, terminator included.
+// Units of a text file's first line that are examined, terminator included.
 inline constexpr int kHeaderLineCapacity = 256;
 
 } // namespace Vorn

@@ -22,7 +22,7 @@ template <class... Values>
 struct ValueList {};
 
 // The kinds of single values that archives read and write. This is their only list: the operations of Archive and the
-// overrides of every form are made from it.
+// overrides of every form are generated from it.
 using ArchiveValues = ValueList<Color, Rectangle, Size, Point, Quad, Matrix44, Matrix33, Vector3, std::int64_t, Bool,
                                 double, float, std::int32_t, std::uint32_t>;
 
@@ -49,7 +49,7 @@ public:
 template <class Value, class... Kinds>
 inline constexpr bool kIsOneOf = (std::is_same_v<Value, Kinds> || ...);
 
-// The values that are numbers of 32 bits and nothing else, in file order.
+// The values that consist of 32-bit numbers alone, in file order.
 template <class Value>
 inline constexpr bool kIsFloats = kIsOneOf<Value, Color, Quad, Matrix44, Matrix33, Vector3, float>;
 template <class Value>

@@ -5,11 +5,11 @@
 
 namespace Vorn {
 
-// The shipping form: the values alone, little-endian, with no label, tag, length or padding between them. Behind the
-// end every scalar is reported and keeps its value.
+// The shipping form: the values alone, little-endian, with no label, tag, length or padding between them. A read past
+// the end is reported for every scalar, which keeps its value.
 //
-// `Bytes` is where they lie: Take copies elements out and returns how many were there whole, TakeWhole takes bytes
-// where they lie or gives null, Put copies elements in, ReportShort tells of elements that were not there.
+// `Bytes` is their storage: Take copies elements out and returns how many were complete, TakeWhole returns the place of
+// so many bytes or null, Put copies elements in, ReportShort reports elements that were missing.
 template <class Bytes>
 class ByteFileArchive : public ArchiveForm<ByteFileArchive<Bytes>, FileArchive> {
     using Form = ArchiveForm<ByteFileArchive<Bytes>, FileArchive>;

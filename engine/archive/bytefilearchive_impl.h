@@ -12,11 +12,11 @@
 #include <iterator>
 #include <type_traits>
 
-// The bodies of ByteFileArchive, for the files that instantiate it.
+// The bodies of ByteFileArchive, included by the files that instantiate it.
 
 namespace Vorn {
 
-// Turns a value of the host into the order of the file and back.
+// Converts a value between the byte orders of the platform and of files, in either direction.
 template <class Bits>
 Bits LittleEndian(Bits bits) {
     if constexpr (std::endian::native == std::endian::big) {
@@ -42,7 +42,7 @@ void ByteFileArchive<Bytes>::ReportMissing() {
     CountIdleRead();
 }
 
-// Not even a part of a number that the end cuts in two is stored.
+// A number that the end of the file cuts in two is not stored at all.
 template <class Bytes>
 template <class Number>
 VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadNumber(Number& number) {
@@ -65,7 +65,7 @@ VORN_RARE void ByteFileArchive<Bytes>::ReadNumberSlowly(Number& number) {
     }
 }
 
-// Several numbers of 32 bits in one go; each that is not there counts for itself.
+// Several 32-bit numbers at once; each one that is missing is reported.
 template <class Bytes>
 template <class Word, std::size_t N>
 VORN_ALWAYS_INLINE void ByteFileArchive<Bytes>::ReadWords(std::array<Word, N>& words) {
@@ -164,7 +164,7 @@ int ByteFileArchive<Bytes>::ReadUnits(char16_t* units, int count) {
     return result;
 }
 
-// Consumes units that their buffer has no room for, so that the next field lines up.
+// Skips units that the buffer has no room for, so that the next field is read at its place.
 template <class Bytes>
 int ByteFileArchive<Bytes>::SkipUnits(int count) {
     char16_t dropped[256];

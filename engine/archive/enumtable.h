@@ -17,7 +17,7 @@ struct EnumTable {
     std::int32_t rowCount = 0;
 };
 
-// The table of an enumeration, for those whose rows stand in a header; each has one specialisation there.
+// The table of an enumeration whose rows are in a header, next to the one specialisation.
 template <class Enum>
 inline constexpr EnumTable kEnumTable = {};
 
@@ -60,8 +60,8 @@ constexpr EnumTable MakeTable(const char* typeName, const std::u16string_view (&
     return {typeName, texts, static_cast<std::int32_t>(N)};
 }
 
-// The number of a row, found while compiling, for the few of a long table that the program tests; an unknown text does
-// not compile.
+// The number of a row at compile time, for long tables of which the program tests a few rows. An unknown text does not
+// compile.
 consteval std::int32_t RowNumber(const EnumTable& table, std::u16string_view text) {
     std::int32_t row = 0;
     while (table.rows[row] != text) {
@@ -75,7 +75,7 @@ consteval std::int32_t RowNumber(std::u16string_view text) {
     return RowNumber(kEnumTable<Enum>, text);
 }
 
-// A value that is no row fires the check "false" and has no text (null).
+// A value without a row fires the check "false" and gives a null text.
 std::u16string_view EnumToText(std::int32_t value, const EnumTable& table);
 
 template <class Enum>

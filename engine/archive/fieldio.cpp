@@ -43,7 +43,7 @@ void FieldIo::Degrees(Label label, float& radians) {
     }
 }
 
-void FieldIo::Block(class Record& block) {
+void FieldIo::Block(Vorn::Record& block) {
     if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
         observer->OnBlock(block);
         block.Fields(*this);

@@ -18,8 +18,9 @@ namespace Vorn {
 
 class Record;
 
-// What a record's list of fields runs against: one call a field, which reads or writes it by the direction. The calls
-// are named after the kinds and never chosen by the type of the member, so that a changed member cannot change a file.
+// What a record lists its fields with: one call a field, which reads or writes it, depending on the direction. The
+// calls are named after the kinds and are not overloaded, so that a changed type of a member cannot change a file
+// unnoticed.
 class FieldIo {
 public:
     enum class Direction : bool { Read, Write };
@@ -31,11 +32,11 @@ public:
     bool Reading() const { return reading; }
     bool Writing() const { return !reading; }
 
-    // What the archive was given for its records.
+    // The context of the archive.
     const FieldContext& Context() const { return *archive.GetContext(); }
 
-    // Whether the fields that came with version `threshold` are there: always in what is written, and in files of that
-    // version or later.
+    // Whether the fields that version `threshold` introduced are present: always when writing, and in files of that
+    // version or later when reading.
     bool Since(std::int32_t threshold) const {
         if (FieldObserver* observer = archive.GetObserver()) [[unlikely]] {
             observer->OnVersion(threshold);
@@ -103,8 +104,8 @@ public:
     // A nested group of fields under a label of its own.
     void Record(Label label, Archivable& value) { Transfer(label, value); }
 
-    // A record whose fields stand at this level, without a label.
-    void Block(class Record& block);
+    // A record whose fields are at this level, without a label.
+    void Block(Vorn::Record& block);
 
     // The entry of a list whose elements are one field under one label each: `io.BoundedList(u"NumWeapons", weapons,
     // io.Records(u"Weapon"))`.
@@ -134,8 +135,8 @@ public:
     // every negative number make an empty list; reading replaces what the list held. The verbs differ in what they do
     // with a count that is too large.
 
-    // Keeps as many elements as the list has room for. The surplus is reported once, ahead of the elements, and is
-    // read and dropped, so that the fields behind it line up.
+    // Keeps as many elements as the list has room for. A surplus is reported once, before the elements are read, and is
+    // read and dropped, so that the fields after it are read at their places.
     template <template <class, int> class List, class T, int N, class Entry>
     void BoundedList(Label countLabel, List<T, N>& list, Entry entry) {
         if (reading) {
@@ -160,7 +161,7 @@ public:
         }
     }
 
-    // Grows entry by entry, whatever the count says.
+    // Grows entry by entry, however large the count is.
     template <class T, class Entry>
     void GrowingList(Label countLabel, DynamicVector<T>& list, Entry entry) {
         if (reading) {
@@ -171,7 +172,7 @@ public:
         }
     }
 
-    // A growing list whose room is made at once from the count. Too much room ends the process, see ListRoom.
+    // A growing list that reserves memory for the whole count at once. Too much ends the process, see ListRoom.
     template <class T, class Entry>
     void ReservedList(Label countLabel, DynamicVector<T>& list, Entry entry, ListRule rule = ListRule::Reserved) {
         if (reading) {
@@ -193,23 +194,29 @@ public:
         ReservedList(countLabel, list, entry, ListRule::Derived);
     }
 
-    // An array that is sized at once and keeps its size, however few elements the file holds. A missing or negative
-    // count fires "newSize >= 0" and leaves the array empty. Too much room ends the process, see ListRoom.
+    // An array that is sized at once from the count and keeps its size, even if the file holds fewer elements. A
+    // missing or negative count fires "newSize >= 0" and leaves the array empty. Too large a count ends the process,
+    // see ListRoom.
     template <class T, class Entry>
     void SizedList(Label countLabel, DynamicArray<T>& array, Entry entry) {
-        if (reading) {
-            const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
+        TransferSized<T>(countLabel, array, entry, [](std::int32_t count) {
             CheckAssert(count >= 0, "newSize >= 0");
-            const ListRoom room = MakeRoom<T>(count);
-            array.Resize(std::max(count, 0));
-            ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
-        } else {
-            WriteList(countLabel, array, entry);
-        }
+            return std::max(count, 0);
+        });
     }
 
-    // A fixed array, which has no count: each element stands under a label of its own, as an entry of the kind that
-    // `entries` makes: `io.LabelledArray(kDamageLabels, damage, &FieldIo::Floats)`.
+    // A sized list whose elements are plain, each one nested under `label` with the fields that the record `Archived`
+    // lists for it. A missing or negative count ends the process after its check: such an array must not become empty
+    // by mistake.
+    template <class Archived, class T>
+    void PlainList(Label countLabel, Label label, DynamicArray<T>& array) {
+        TransferSized<Archived>(
+            countLabel, array, [&](T& element) { PlainRecord<Archived>(label, element); },
+            [](std::int32_t count) { return count; });
+    }
+
+    // A fixed array, which has no count: each element has a label of its own, as an entry of the kind that `entries`
+    // makes: `io.LabelledArray(kDamageLabels, damage, &FieldIo::Floats)`.
     template <class T, int N, class Entries>
     void LabelledArray(const Label (&labels)[N], FixedArray<T, N>& array, Entries entries) {
         for (int i = 0; i < N; ++i) {
@@ -217,7 +224,7 @@ public:
         }
     }
 
-    // The room of a list of `count` elements like T that is made at once.
+    // Accounts for the memory of a list of `count` elements like T.
     template <class T>
     ListRoom MakeRoom(std::int32_t count) {
         const bool isMeasured = count > ListRoom::kShort || ListRoom::IsInside(archive);
@@ -228,7 +235,7 @@ public:
     std::int32_t ReadCount(const ListShape& list, std::int32_t start = 0);
     void WriteCount(Label label, std::int32_t count);
 
-    // The same for both directions: what the file says, or `size`, written.
+    // The same for both directions: returns the count of the file, or writes `size`.
     std::int32_t Count(const ListShape& list, std::int32_t size, std::int32_t start = 0) {
         if (reading) {
             return ReadCount(list, start);
@@ -253,12 +260,55 @@ public:
     }
 
 private:
+    // An element that knows whether it was read.
+    template <class Archived>
+    class ReadElement final : public Archivable {
+    public:
+        using Archivable::Read;
+
+        void Read(Archive& _archive) override {
+            wasRead = true;
+            element.Read(_archive);
+        }
+        void Write(Archive& _archive) const override { element.Write(_archive); }
+
+        Archived element;
+        bool wasRead = false;
+    };
+
     template <class T>
     void Transfer(Label label, T& value) {
         if (reading) {
             archive.Read(label, value);
         } else {
             archive.Write(label, static_cast<const T&>(value));
+        }
+    }
+
+    // `Stored` is the type of an element as files hold it; `sizeOf` returns the array's size for a count.
+    template <class Stored, class T, class Entry, class SizeOf>
+    void TransferSized(Label countLabel, DynamicArray<T>& array, Entry entry, SizeOf sizeOf) {
+        if (reading) {
+            const std::int32_t count = ReadCount({countLabel, ListRule::Sized}, -1);
+            const ListRoom room = MakeRoom<Stored>(count);
+            array.Resize(sizeOf(count));
+            ReadEntries(count, [&](std::int32_t i) { entry(array[i]); });
+        } else {
+            WriteList(countLabel, array, entry);
+        }
+    }
+
+    // A plain element that is missing in the file is not stored, so that its memory stays untouched.
+    template <class Archived, class T>
+    void PlainRecord(Label label, T& element) {
+        ReadElement<Archived> archived;
+        T& fields = archived.element;
+        if (!reading) {
+            fields = element;
+        }
+        Record(label, archived);
+        if (reading && archived.wasRead) {
+            element = fields;
         }
     }
 

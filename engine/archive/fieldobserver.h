@@ -7,7 +7,7 @@ namespace Vorn {
 class Record;
 struct EnumTable;
 
-// What becomes of a count that is larger than a list has room for.
+// What happens with a count that is larger than the capacity of a list.
 enum class ListRule {
     // The surplus is reported once and dropped.
     Bounded,
@@ -17,14 +17,14 @@ enum class ListRule {
     Fatal,
     // There is no limit.
     Growing,
-    // There is no limit, and the room is made at once for the count.
+    // There is no limit, and memory is reserved for the whole count at once.
     Reserved,
-    // There is no limit, the array has as many elements as the count says, and a missing count is reported.
+    // There is no limit, the size of the array is the count, and a missing count is reported.
     Sized,
     // There is a place for each row of an enumeration that the entries begin with: of two entries with the same row the
     // later one is kept, and the order of the rows is that of the table.
     Keyed,
-    // The list has as many entries as its limit says, and any other count is reported.
+    // The number of entries is fixed, and any other count is reported.
     Exact,
     // There is no limit, and what is written is computed from other fields, whatever was read.
     Derived
@@ -39,8 +39,8 @@ struct ListShape {
     std::int32_t limit = kUnlimited;
 };
 
-// Follows the fields of a record while they are read: it gets what the list of fields knows and an archive cannot see.
-// FieldIo calls it ahead of the reads that it speaks of, if the archive has one.
+// Gets what the list of fields knows and an archive cannot see, while a record is read. FieldIo calls it right before
+// the read in question, if the archive has one.
 class FieldObserver {
 public:
     virtual ~FieldObserver() = default;
@@ -55,7 +55,7 @@ public:
     virtual void OnDegrees() {}
     // The next Uint is the count of a list. OnEntry precedes each of its entries, OnListEnd follows the last.
     virtual void OnList(const ListShape&) {}
-    // False ends the list ahead of this entry.
+    // If this returns false, the list ends before this entry.
     virtual bool OnEntry(std::int32_t) { return true; }
     virtual void OnListEnd() {}
     // The record asks whether the file is of this version or later.

@@ -7,7 +7,7 @@ namespace Vorn {
 
 enum class FileArchiveType : std::int32_t { Unknown = -1, Text = 0, Binary = 1, Steam = 2 };
 
-// An archive on a file. The file belongs to whoever opened it and is closed by FileArchiveSystem.
+// An archive on a file, which it does not own. FileArchiveSystem closes the file.
 class FileArchive : public Archive {
 public:
     FileArchive(File* _file, bool _hasFloatBits) : file(_file), hasFloatBits(_hasFloatBits) {}

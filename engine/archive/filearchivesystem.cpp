@@ -26,13 +26,13 @@ FileArchiveSystem::~FileArchiveSystem() {
     CheckAssert(fileArchiveCount == 0, "fileArchiveCount == 0");
 }
 
-// What the header of a file says.
+// What the header of a file contains.
 struct FileArchiveSystem::Form {
     FileArchiveType type;
     bool hasVersion;
 };
 
-// In the reports each step counts as an opening of its own: to look for the one form, for the other, and to read.
+// The reports are those of three openings: one to detect each of the two forms, and one to read.
 FileArchive* FileArchiveSystem::OpenForRead(std::u16string_view fileName, bool hasFloatBits) {
     openFailure = OpenFailure::None;
     File* file = fileSystem.Open(fileName, FileAccess::Read, FileTranslation::Binary);
@@ -126,7 +126,7 @@ FileArchiveSystem::Form FileArchiveSystem::TakeHeader(File& file, std::u16string
     return form;
 }
 
-// Leaves the header where it is. Each byte that is not there is reported.
+// Does not move past the header. Each missing byte is reported.
 FileArchiveSystem::Form FileArchiveSystem::DetectBinary(File& file) {
     const std::string_view start = file.PeekBytes(kHeaderSize);
     for (std::size_t missing = start.size(); missing < kHeaderSize; ++missing) {

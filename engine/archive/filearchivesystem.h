@@ -15,11 +15,11 @@ public:
 // Why a file could not become an archive.
 enum class OpenFailure { None, CannotOpen, NotAnArchive };
 
-// The one place where a file becomes an archive: it tells a file's form, skips or writes the header and handles the
-// version. A loader names only a path, so that text and binary files stand for each other everywhere.
+// Opens files as archives: detects the form, skips or writes the header and handles the version. Loaders pass only a
+// path, so that text and binary files are interchangeable everywhere.
 class FileArchiveSystem {
 public:
-    // The archives give the context to their records.
+    // The archives pass the context on to their records.
     FileArchiveSystem(FileSystem& _fileSystem, const FieldContext& _context)
         : fileSystem(_fileSystem), context(_context) {}
     FileArchiveSystem(const FileArchiveSystem&) = delete;
@@ -27,14 +27,14 @@ public:
     virtual ~FileArchiveSystem();
 
     // Opens the file once and detects its form. Null, after a report, for a file that cannot be opened, which is
-    // reported twice, or that is neither form; GetOpenFailure says which.
+    // reported twice, or that is neither form; GetOpenFailure tells them apart.
     FileArchive* OpenForRead(std::u16string_view fileName, bool hasFloatBits);
 
-    // What became of the latest OpenForRead.
+    // The result of the latest OpenForRead.
     OpenFailure GetOpenFailure() const { return openFailure; }
 
     // Null, after a report, if the file cannot be opened. The Steam form has no file, header or version: its archives
-    // are those of the remote storage, and null comes back where none was set.
+    // are made by the remote storage, and without one null is returned.
     FileArchive* OpenForWrite(std::u16string_view fileName, bool hasFloatBits, FileArchiveType type);
 
     // Closes the file, destroys the archive and clears the pointer; does nothing on null.
@@ -43,7 +43,7 @@ public:
     // Close for an archive that has no file.
     void Destroy(FileArchive*& archive);
 
-    // The storage behind archives of the Steam form, not owned.
+    // The storage that makes archives of the Steam form, not owned.
     void SetRemoteStorage(ArchiveMaker* storage) { remoteStorage = storage; }
 
     // Makes and counts the archive of a file that has been read up to its header; null for an unknown type.
@@ -69,7 +69,7 @@ private:
     OpenFailure openFailure = OpenFailure::None;
 };
 
-// An archive that is given back at the end of its scope, also when an exception leaves it. Null gives nothing back.
+// Closes an archive at the end of the scope, also when an exception leaves it. The archive may be null.
 class ScopedArchive {
 public:
     ScopedArchive(FileArchiveSystem& _archives, FileArchive* _archive) : archives(_archives), archive(_archive) {}

@@ -11,7 +11,7 @@ public:
     constexpr Label() = default;
     constexpr Label(std::u16string_view text) : std::u16string_view(text) {}
 
-    // A literal, whose length costs nothing at run time.
+    // A literal, whose length is known at compile time.
     template <std::size_t N>
     constexpr Label(const char16_t (&text)[N]) : std::u16string_view(text, N - 1) {}
 };

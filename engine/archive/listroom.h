@@ -4,13 +4,13 @@
 
 namespace Vorn {
 
-// The room of a list that is made at once for its count, while the list is read. It is counted by the size of an
-// element in a binary file. More than 64 MiB and more than 64 times the source counts as a failed allocation and ends
-// the process abnormally: a damaged count must not cost what no source is worth. Lists inside a list count together
-// with it.
+// Accounts for the memory of a list that is allocated at once for its count, while the list is read. An element counts
+// with its size in a binary file. More than 64 MiB that is also more than 64 times the size of the source counts as a
+// failed allocation and ends the process abnormally: a small file with a damaged count must not use all memory. Lists
+// inside a list are added to it.
 class ListRoom {
 public:
-    // Lists of so few elements are not worth measuring.
+    // Lists of so few elements need not be measured.
     static constexpr std::int32_t kShort = 4096;
 
     ListRoom(Archive& _archive, std::int32_t count, std::uint64_t elementSize);
@@ -18,10 +18,10 @@ public:
     ListRoom& operator=(const ListRoom&) = delete;
     ~ListRoom();
 
-    // As much of the count as the source can hold.
+    // The count, or as many elements as the source can hold if those are fewer.
     std::int32_t GetLikelyCount() const { return likelyCount; }
 
-    // Whether a list inside another one comes next.
+    // Whether a list is being read already, so that the next one is inside it.
     static bool IsInside(const Archive& archive) { return archive.roomsOfLists != 0; }
 
 private:

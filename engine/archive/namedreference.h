@@ -5,8 +5,8 @@
 
 namespace Vorn {
 
-// A reference to a thing by its name alone, stored as one text of at most N - 1 code units under the owner's label. A
-// missing label leaves the name as it is; no name is looked up, and an empty one refers to nothing.
+// A reference by name alone, stored as one text of at most N - 1 code units under the owner's label. A missing label
+// leaves the name unchanged; no name is looked up, and an empty one refers to nothing.
 template <int N, NameKind kind = NameKind::None>
 class NamedReference : public SingleLineArchivable {
 public:

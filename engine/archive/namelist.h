@@ -6,7 +6,7 @@
 
 namespace Vorn {
 
-// Names that records hold as indexes; it only grows, so that an index stays valid.
+// Names that records keep as indexes. The list only grows, so that indexes stay valid.
 class NameList {
 public:
     static constexpr std::int32_t kNone = -1;
@@ -30,7 +30,7 @@ private:
     std::int32_t& PlaceOf(std::u16string_view name);
 
     DynamicVector<Name> names;
-    // Indexes by the hash of their names, as many places as a power of two.
+    // A hash table of indexes; its size is a power of two.
     std::vector<std::int32_t> places;
 };
 

@@ -7,7 +7,7 @@ void Record::Read(Archive& archive) {
     Fields(io);
 }
 
-// The one list cannot be const for reading's sake; run for writing it changes no stored field.
+// Fields cannot be const, since it also reads. While writing it changes no stored field.
 void Record::Write(Archive& archive) const {
     FieldIo io(archive, FieldIo::Direction::Write);
     const_cast<Record*>(this)->Fields(io);

@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// A record that lists its fields once, in file order; the list serves reading and writing. The members' initial values
-// are what missing keys leave, so they are part of the file format.
+// A record that lists its fields once, in file order; the same list reads and writes. The members' initial values are
+// what missing keys leave, so they are part of the file format.
 class Record : public Archivable {
 public:
     using Archivable::Read;

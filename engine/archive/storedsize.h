@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// The bytes that a value takes in a binary file, where a text counts as the four bytes of its length. Checks are off
-// meanwhile. The context is that of the archive the value is for.
+// The size of a value in a binary file; a text counts as the four bytes of its length. Checks are off during the call.
+// The context is that of the archive of the value.
 std::uint64_t StoredSize(const Archivable& value, const FieldContext* context);
 std::uint64_t StoredSize(const SingleLineArchivable& value, const FieldContext* context);
 

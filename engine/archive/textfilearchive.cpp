@@ -23,7 +23,7 @@ constexpr const char* kResultChecks[] = {"",
 
 constexpr int kNoLabel = -1;
 
-// Whether there was a label; a scan behind it that stored another number of fields fires its check.
+// Whether the label was found. If so, any other number of stored fields fires its check.
 bool CheckResult(int stored, int expected) {
     if (stored != kNoLabel) {
         CheckAssert(stored == expected, kResultChecks[expected]);
@@ -91,7 +91,7 @@ std::int32_t BitsOf(float value) {
     return std::bit_cast<std::int32_t>(value);
 }
 
-// Floats with their bits behind them, which replace the decimals.
+// Floats followed by their bits, which replace the decimals.
 template <std::size_t N>
 void ScanFloatBits(Scanner& scanner, std::array<float, N>& values) {
     std::array<float, N> decimals{};
@@ -104,7 +104,7 @@ void ScanFloatBits(Scanner& scanner, std::array<float, N>& values) {
     }
 }
 
-// Decimals, short as they need not be exact, and then the bits.
+// Two decimals, since they need not be exact, and then the bits.
 template <class Line, std::size_t N>
 void PutFloatBits(Line& line, const std::array<float, N>& values) {
     line.Literal(" [");
@@ -183,7 +183,7 @@ VORN_ALWAYS_INLINE void TextFileArchive::ReadValue(Label label, Value& value) {
     }
 }
 
-// Each row has a line of its own, which is read whatever stands there.
+// Each row has a line of its own without a label, so that any line is read as the row.
 template <MatrixValue Value>
 void TextFileArchive::ReadValue(Label label, Value& value) {
     if (!FindRecord(label)) {
@@ -322,7 +322,7 @@ void TextFileArchive::Read(Label label, Archivable& value) {
     }
 }
 
-// Writes a line of a label and what `put` puts behind it.
+// Writes a line: a label and what `put` adds.
 template <class Put>
 VORN_ALWAYS_INLINE void TextFileArchive::WriteLine(Label label, Put put) {
     TextLine<LineContent::Plain> line(*file, m_TabDepth, label);

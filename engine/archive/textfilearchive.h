@@ -7,8 +7,8 @@
 
 namespace Vorn {
 
-// The readable form: one line a field, label first, nested records indented. A line that is written holds at most
-// kLineCapacity - 1 units behind its indentation and is cut else.
+// The readable form: one line a field, label first, nested records indented. A line that is written holds at most 1023
+// units after its indentation; a longer one is cut.
 class TextFileArchive final : public ArchiveForm<TextFileArchive, TextLines> {
 public:
     TextFileArchive(File* _file, bool _hasFloatBits);

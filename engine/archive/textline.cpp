@@ -17,7 +17,7 @@ char* TextLine<kContent>::PutEncoded(std::u16string_view text) {
     return end;
 }
 
-// A line that is too long or has line feeds inside goes back to units, is cut, and is printed as text.
+// A line that is too long or contains line feeds is converted back to units, cut, and printed as text.
 template <LineContent kContent>
 void TextLine<kContent>::EndLong() {
     const std::u16string whole = NameFromBytes({start, static_cast<std::size_t>(cursor - start)});

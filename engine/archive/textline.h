@@ -8,13 +8,13 @@
 namespace Vorn {
 
 enum class LineContent : bool {
-    // Plain text and short numbers, as in nearly all lines. Anything else makes the line bad, and it is built anew; so
-    // nothing of it has to be kept for a call, and it lives in registers.
+    // Plain text and short numbers, as in nearly all lines. Anything else makes the line bad, and the line is built
+    // again as Any. This keeps the line free of calls, so that it stays in registers.
     Plain,
     Any
 };
 
-// A line of a text archive while it is built in the file's own buffer: a label, at most one text beside it, and
+// A line of a text archive while it is built in the buffer of the file: a label, at most one text beside it, and
 // numbers. A line longer than its capacity is cut at the end, with the check "! FAILED( hr )".
 template <LineContent kContent>
 class TextLine {
@@ -29,7 +29,7 @@ public:
     TextLine(const TextLine&) = delete;
     TextLine& operator=(const TextLine&) = delete;
 
-    // One text beside the label; each counts only as far as it alone would fill the line.
+    // One text besides the label; each is read up to the capacity of a line.
     VORN_ALWAYS_INLINE TextLine& Text(std::u16string_view text) {
         if (text.size() > kLongestPlainText || !NarrowAscii(text.data(), text.size(), cursor)) [[unlikely]] {
             return Else([&] { return PutEncoded(text); });
@@ -53,7 +53,7 @@ public:
     TextLine& Int64(std::int64_t value) { return Put(PutInt64(cursor, value)); }
     TextLine& Double(double value, int places = 6) { return Put(PutFixed(cursor, value, places)); }
 
-    // Ends the line and hands it to the file. False for a bad line, of which nothing is kept.
+    // Ends the line and commits it to the file. Returns false for a bad line, which is dropped.
     VORN_ALWAYS_INLINE bool End() {
         if constexpr (kContent == LineContent::Any) {
             if (cursor - start - extraBytes >= kCapacity || hasLineFeed) {
@@ -72,7 +72,7 @@ public:
 private:
     static constexpr std::size_t kLongestPlainText = 256;
     static constexpr std::size_t kLongestPlainNumber = 32;
-    // A plain line always fits: label, text, and four numbers with what stands between them.
+    // A plain line always fits: label, text, and four numbers with their separators.
     static_assert(2 * kLongestPlainText + 4 * kLongestPlainNumber < kCapacity);
     static_assert(File::kLineRoom >= 2 * kCapacity * kMaxUtf8PerUnit + 2 * kNumberTextCapacity);
 
@@ -80,7 +80,7 @@ private:
         cursor = end;
         return *this;
     }
-    // Puts what is not plain, where that may be.
+    // Puts what is not plain, if such content is allowed.
     template <class PutOther>
     VORN_ALWAYS_INLINE TextLine& Else(PutOther putOther) {
         if constexpr (kContent == LineContent::Any) {
@@ -97,7 +97,7 @@ private:
     char* start;
     char* cursor;
     bool isBad = false;
-    // Bytes over one for each unit so far.
+    // The bytes so far, less one for each unit.
     std::ptrdiff_t extraBytes = 0;
     bool hasLineFeed = false;
 };

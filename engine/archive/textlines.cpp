@@ -8,6 +8,8 @@
 
 namespace Vorn {
 
+static_assert(TextLines::kLineCapacity <= Scanner::kLongestNumber);
+
 void TextLines::TakeLine() {
     KeepPlainLine();
     const bool isFresh = !m_CurrentLineUnread && !file->GetString(currentLine.Buffer(), currentLineLength);
@@ -39,7 +41,7 @@ std::u16string_view TextLines::RestOfLine(const char16_t* place) const {
     return {place, static_cast<std::size_t>(currentLine.Units() + currentLineLength - place)};
 }
 
-// The line that was read last becomes the current one, as if TakeLine had read it.
+// Makes the line that was read last the current one, as if TakeLine had read it.
 void TextLines::KeepPlainLine() {
     if (plainLine == nullptr) {
         return;

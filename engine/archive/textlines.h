@@ -7,25 +7,27 @@
 
 namespace Vorn {
 
-// The lines that a text archive reads, and what is reported of them. Reading is strictly sequential: each read demands
-// that the current line begins with its label. A label that does not match is reported, and the same line serves the
-// next read; so a missing line costs one report, a stray one a report for every field behind it.
+// The lines that a text archive reads, and the reports about them. Reading is strictly sequential: the current line
+// must begin with the label of the read. If it does not, that is reported, and the next read tries the same line. So a
+// missing line causes one report, a superfluous one a report for every field after it.
 class TextLines : public FileArchive {
 public:
-    // Units of a line, terminator included; longer lines come in pieces.
+    // Units of a line, terminator included; longer lines are read in pieces.
     static constexpr int kLineCapacity = 1024;
 
     using FileArchive::FileArchive;
 
 protected:
-    // Makes the next line the current one, or the waiting one again. At the end of the file the last one stays.
+    // Makes the next line the current one, unless the current one was not used yet. At the end of the file the last
+    // line stays.
     void TakeLine();
 
-    // The value behind the label of the next line, or null after a report.
+    // Where the value begins in the next line, after the label. Null, after a report, if the line has another label.
     const char16_t* FindLabel(Label label);
 
-    // Reads a line from the file's bytes if it begins with the label and goes on with what `scan` accepts, all in the
-    // form that the archive writes. False for every other line, which stays to be read by FindLabel.
+    // The fast path: reads a line directly from the bytes of the file if it begins with the label and continues with
+    // what `scan` accepts, all in the form that the archive writes. Returns false for any other line, which is not
+    // consumed; FindLabel reads it then.
     template <class Scan>
     bool ReadPlainLine(Label label, Scan scan);
 
@@ -46,9 +48,9 @@ private:
     int currentLineLength = 0;
     std::int32_t lineNumber = 0;
     bool m_CurrentLineUnread = false;
-    // Not where the current line waits, and not behind an idle read, whose end TakeLine has to see.
+    // False while the current line is to be used again, and after an idle read, whose end TakeLine has to notice.
     bool readsPlainLines = true;
-    // The line read last, up to the place of the file, where it was read from the file's bytes; the current line is
+    // The start of the line read last, if the fast path read it; it ends at the place of the file. The current line is
     // older then.
     const char* plainLine = nullptr;
 };
@@ -56,6 +58,7 @@ private:
 template <class Scan>
 VORN_ALWAYS_INLINE bool TextLines::ReadPlainLine(Label label, Scan scan) {
     static_assert(kLongestPlainLine <= kLineCapacity);
+    static_assert(kPlainSlack <= ReadBuffer::kSlack);
     if (!readsPlainLines || !file->HasPlainText()) [[unlikely]] {
         return false;
     }

@@ -5,8 +5,8 @@
 
 namespace Vorn {
 
-// Tables that tell for each value of an enumeration its text and the fields that follow it in a record, in file order.
-// Row i is that of the value i; a field is a small step that reads or writes it.
+// Tables that hold for each value of an enumeration its text and the fields that follow it in a record, in file order.
+// Row i belongs to the value i; a field is a small function that reads or writes it.
 template <class Values>
 using FieldStep = void (*)(FieldIo& io, Values& values);
 
@@ -16,7 +16,7 @@ struct TypeRow {
     FieldStep<Values> steps[kMaxSteps] = {};
 };
 
-// The row of a type; null for -1.
+// The row of a type; null for -1 and all other numbers without a row.
 template <class Row, std::size_t N, class E>
 const Row* FindRow(const Row (&rows)[N], E type) {
     const auto number = static_cast<std::int32_t>(type);
@@ -36,7 +36,7 @@ void RowFields(FieldIo& io, const Row (&rows)[N], E type, Values& values) {
     }
 }
 
-// The same for values that only types with fields have.
+// The same for values that are only created for types with fields.
 template <class Row, std::size_t N, class E, class Values>
 void RowFields(FieldIo& io, const Row (&rows)[N], E type, OnDemand<Values>& values) {
     const Row* row = FindRow(rows, type);

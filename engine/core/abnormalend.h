@@ -2,20 +2,20 @@
 
 namespace Vorn {
 
-// The one way in which the process ends by a fault: what was written reaches its file, then the process aborts, with no
-// unwinding and no text of its own.
+// Ends the process because of a fault, the only way to do so: what was written is flushed to its files, then the
+// process aborts, without unwinding and without a message.
 [[noreturn]] void EndAbnormally();
 
-// Something that has to be brought to safety before the process ends abnormally. Lives in a list of its thread while it
-// exists, and is called in the thread that ends, the latest first. One that throws keeps the process alive: the end is
-// an exception then, for whoever made the guard.
+// Is called before the process ends abnormally, to save what must not be lost. Guards are in a list of their thread as
+// long as they exist, and those of the thread that ends are called, the latest one first. A guard that throws keeps the
+// process alive: its owner catches the exception instead.
 class EndGuard {
 public:
     EndGuard();
     EndGuard(const EndGuard&) = delete;
     EndGuard& operator=(const EndGuard&) = delete;
 
-    // Must not allocate: the end may come from memory running out.
+    // Must not allocate: the reason of the end may be that memory ran out.
     virtual void BeforeAbnormalEnd() = 0;
 
 protected:
@@ -27,8 +27,8 @@ private:
     EndGuard* next;
 };
 
-// The largest storage in bytes of a list that grows. One that asks for more ends the process, so that the same file
-// ends the same way on every machine.
+// The most bytes that a growing list may allocate. A request for more ends the process, so that the same file has the
+// same result on every machine.
 inline constexpr unsigned long long kMaxListBytes = 2147483647;
 
 } // namespace Vorn

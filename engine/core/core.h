@@ -12,8 +12,8 @@ class MeshSystem;
 class TextureSystem;
 struct FieldContext;
 
-// Owner of the engine's systems. Records reach what they need of them through the context of their archive. Include the
-// headers of the systems that are used.
+// Owner of the engine's systems. Records get what they need of them from the context of their archive. Users include
+// the headers of the systems.
 class Core {
     struct Systems;
     std::unique_ptr<Systems> systems;
@@ -26,7 +26,7 @@ public:
     Core& operator=(const Core&) = delete;
     ~Core();
 
-    // A well-known directory by its place in the table, which is empty here.
+    // A well-known directory by its place in the table; all are empty.
     std::u16string_view GetDirectory(int kind) const;
 
     FileSystem& fileSystem;

@@ -35,7 +35,7 @@ bool IsDebuggerAttached() {
 
 namespace {
 
-// Goes on where a signal interrupts, and waits where a write would block.
+// Retries after an interruption by a signal, and waits if the write would block.
 void WriteToStandardError(const char* bytes, std::size_t count) {
     while (count > 0) {
         const ssize_t written = write(STDERR_FILENO, bytes, count);
@@ -51,13 +51,14 @@ void WriteToStandardError(const char* bytes, std::size_t count) {
     }
 }
 
-// The reports that wait. Only whole ones, so that those of several processes stay apart as far as the platform goes.
+// Reports that are not written yet. Only whole reports are written, so that those of several processes do not mix, as
+// far as the platform allows.
 class ReportBlock {
 public:
     constexpr ReportBlock() = default;
     ReportBlock(const ReportBlock&) = delete;
     ReportBlock& operator=(const ReportBlock&) = delete;
-    // What is reported after this, while the process ends, does not wait.
+    // What is reported after this, while the process ends, is written at once.
     ~ReportBlock() {
         hasEnded = true;
         Flush();
@@ -99,7 +100,8 @@ private:
 
 constinit ReportBlock g_ReportBlock;
 
-// A tracer shows in the process status as a process number other than 0. The status stays open for the next time.
+// A debugger appears in the status of the process as a process number other than 0. The file stays open for the next
+// call.
 bool HasTracer() {
     static const int status = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
     char text[2048];
@@ -120,7 +122,7 @@ void FlushDebugOutput() {
     g_ReportBlock.Flush();
 }
 
-// The platform takes microseconds to tell, and a damaged file may fail a million checks.
+// To ask the platform costs microseconds, and a damaged file may fail a million checks.
 bool IsDebuggerAttached() {
     using Clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds kWorthAsking(1);

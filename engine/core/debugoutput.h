@@ -2,16 +2,16 @@
 
 namespace Vorn {
 
-// The debug output, where every report ends: the debug channel of the platform on Windows, one call a report; elsewhere
-// standard error as UTF-8, with a line end added to a text that has none. At most kReportCapacity - 1 units; a write
-// that fails is ignored. Serves all threads. Elsewhere than on Windows whole reports wait in a block of 64 KiB.
+// Writes a report to the debug output: on Windows the debug channel of the platform, with one call; on other platforms
+// standard error as UTF-8, with a line end added if there is none, and buffered in a block of 64 KiB. At most
+// kReportCapacity - 1 units; a failed write is ignored. May be called by all threads.
 void WriteDebugOutput(const char16_t* text);
 
-// Writes what waits, as the end of the process does: ahead of anything that may take long, so that reports are seen
-// when they are made.
+// Flushes the buffer, as the end of the process does. To be called before anything that may take long, so that reports
+// are seen in time.
 void FlushDebugOutput();
 
-// Asked anew every millisecond, since a debugger may come and go.
+// Checked again every millisecond, since a debugger may be attached and detached at any time.
 bool IsDebuggerAttached();
 
 } // namespace Vorn

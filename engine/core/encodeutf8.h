@@ -28,10 +28,11 @@ constexpr char16_t LowSurrogateOf(std::uint32_t point) {
 // Encodes a code point, which may be an unpaired surrogate, and returns the end.
 char* EncodePoint(char* out, std::uint32_t point);
 
-// Removes the code point at the front of a text that is not empty; an unpaired surrogate comes back as itself.
+// Removes the first code point of a text, which must not be empty, and returns it; an unpaired surrogate is returned as
+// it is.
 std::uint32_t RemovePoint(std::u16string_view& text);
 
-// Bytes that one code unit can take at most.
+// The most bytes that one code unit needs.
 inline constexpr int kMaxUtf8PerUnit = 3;
 
 // Encodes 16-bit text with room for kMaxUtf8PerUnit bytes a unit and returns the end. An unpaired surrogate becomes

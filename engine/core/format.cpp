@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// Walks a format once and fills the destination; what does not fit is dropped and remembered.
+// Processes a format and fills the destination; text that does not fit is dropped, and `cut` is set.
 class Formatter {
 public:
     Formatter(StringBuffer destination, std::initializer_list<FormatArgument> arguments)
@@ -36,7 +36,7 @@ private:
         Kind kind;
     };
 
-    // Puts the conversion at the start of `format` and returns how many units it takes there.
+    // Puts the result of the conversion at the start of `format` and returns the conversion's length.
     std::size_t Convert(std::u16string_view format) {
         if (format.starts_with(u"%%")) {
             Put(u"%");

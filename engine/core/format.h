@@ -8,12 +8,12 @@
 
 namespace Vorn {
 
-// One typed argument of Format. Narrow text is ASCII, as the program itself spells its names.
+// One typed argument of Format. Narrow text must be ASCII.
 class FormatArgument {
 public:
     FormatArgument(const char16_t* _text) : kind(Kind::Text), text(_text != nullptr ? _text : u"") {}
     FormatArgument(std::u16string_view _text) : kind(Kind::Text), text(_text) {}
-    // A text that keeps its units itself, like FixedString.
+    // A text with a View, like FixedString.
     template <class Text>
     requires requires(const Text& _text) { std::u16string_view(_text.View()); }
     FormatArgument(const Text& _text) : kind(Kind::Text), text(_text.View()) {}
@@ -39,9 +39,9 @@ private:
     };
 };
 
-// Formatted print with the conversions %s %d %x %lld %I64d %f %.2f %p, the field form %-*s, and %%. The arguments carry
-// their types: a conversion without an argument of its kind stays in the text as it stands, so that nothing is ever
-// read that was not passed. Text beyond the capacity is cut, and the check "! FAILED( hr )" fires.
+// Formatted print with the conversions %s %d %x %lld %I64d %f %.2f %p, the field form %-*s, and %%. The types of the
+// arguments are known: a conversion whose argument is missing or of another type stays in the text unchanged, so that
+// no argument is ever read that was not passed. Text beyond the capacity is cut, and the check "! FAILED( hr )" fires.
 void FormatList(StringBuffer destination, const char16_t* format, std::initializer_list<FormatArgument> arguments);
 
 template <class... Arguments>

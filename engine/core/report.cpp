@@ -13,7 +13,7 @@ namespace {
 
 constinit thread_local std::uint64_t g_ReportCost = 0;
 
-// A report while it is made.
+// The buffer of a report.
 struct ReportText {
     std::u16string_view View() const { return units; }
     StringBuffer Buffer() { return {units, kReportCapacity}; }
@@ -37,7 +37,7 @@ void CountReport(const ReportText& text) {
     g_ReportCost += 1 + CountBytes(text.View()) / kBytesPerCost;
 }
 
-// Takes out each ".." step with the folder before it and turns slashes into backslashes.
+// Removes each ".." with the folder before it and converts slashes to backslashes.
 std::string ShortenPath(std::string_view path) {
     std::string result;
     while (!path.empty()) {
@@ -72,7 +72,7 @@ void LogTextWithPosition(const ReportText& text, const char* file, int line) {
     LogText(whole);
 }
 
-// The answer is 0 where there is nobody to ask.
+// The answer is 0 without a message handler.
 template <class... Arguments>
 int ShowMessage(const char16_t* title, const char16_t* format, const Arguments&... arguments) {
     if (g_Reporting.messageHandler == nullptr) {

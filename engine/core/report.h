@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// The place in the source that a check or a report comes from.
+// The place in the source code of a check or a report.
 struct SourcePosition {
     const char* file;
     int line;
@@ -14,18 +14,19 @@ struct SourcePosition {
     }
 };
 
-// What this thread has reported so far, as the work that it makes: 1 for each report and 1 more for each 256 bytes that
-// its text has in UTF-8.
+// The cost of what this thread has reported so far: 1 for each report, and 1 more for each 256 bytes of its text in
+// UTF-8.
 std::uint64_t GetReportCost();
 
 // Reports a failed check through the report handler, or on the debug output as "assert! [expression]".
 void ReportAssert(const char* file, int line, const char* expression);
 
-// What CheckAssert does with a condition that does not hold.
+// What CheckAssert does if the condition is false.
 void ReportFailedCheck(const char* expression, SourcePosition position);
 
-// The debug check: a condition that does not hold is reported with the expression's text as given, and the caller goes
-// on. Silent while a debugger is attached.
+// The debug check: reports `expression` if the condition is false, and the caller continues. Silent while a debugger is
+// attached. The texts of checks are output that people search for: they stay as they are when the code around them
+// changes.
 inline void CheckAssert(bool condition, const char* expression, SourcePosition position = SourcePosition::Here()) {
     if (!condition) [[unlikely]] {
         ReportFailedCheck(expression, position);

@@ -8,8 +8,8 @@ namespace Vorn {
 // Units of a report's text, terminator included; a longer text is cut.
 inline constexpr int kReportCapacity = 4096;
 
-// Takes over all reports when set: file and line of the place ("" and -1 for a report without one), the text, and
-// whether it is a failure rather than a logged line.
+// Gets all reports instead of the debug output if it is set: file and line of the place ("" and -1 for a report without
+// one), the text, and whether it is a failure and not a logged line.
 class ReportHandler {
 public:
     virtual ~ReportHandler() = default;
@@ -23,15 +23,14 @@ public:
     virtual int Show(std::u16string_view title, std::u16string_view text) = 0;
 };
 
-// A file that keeps what is reported.
+// Keeps a copy of what is reported.
 class ReportLog {
 public:
     virtual ~ReportLog() = default;
     virtual void Add(std::u16string_view text) = 0;
 };
 
-// Where the reports of a thread go. The converter runs with none of it set, so that every report ends on the debug
-// output alone.
+// Where the reports of a thread go. The converter sets none of this, so that all reports go to the debug output alone.
 struct Reporting {
     ReportHandler* reportHandler = nullptr;
     MessageHandler* messageHandler = nullptr;
@@ -42,7 +41,7 @@ struct Reporting {
 
 extern constinit thread_local Reporting g_Reporting;
 
-// A format that remembers where it was written.
+// A format together with its place in the source code.
 struct FormatAt {
     FormatAt(const char16_t* _format, SourcePosition _position = SourcePosition::Here())
         : format(_format), position(_position) {}
@@ -61,8 +60,8 @@ void ReportError(const char16_t* format, const Arguments&... arguments) {
     ReportErrorList(format, {FormatArgument(arguments)...});
 }
 
-// The same from a known place, which is not shown. The finished text counts as a format once more, so that "%%" in an
-// argument comes out as "%".
+// The same from a known place, which is not shown. The finished text is formatted once more without arguments, so that
+// "%%" in an argument becomes "%".
 template <class... Arguments>
 void ReportErrorAt(const FormatAt& format, const Arguments&... arguments) {
     ReportErrorAtList(format, {FormatArgument(arguments)...});

@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// A list of which a file may hold N elements, for records of which there may be many: unlike a FixedVector it takes no
-// room until it has elements. The field list keeps the limit.
+// A list of at most N elements, for records of which there may be many: unlike a FixedVector it needs no memory while
+// it is empty. FieldIo enforces the limit.
 template <class T, int N>
 class BoundedVector : public DynamicVector<T> {};
 

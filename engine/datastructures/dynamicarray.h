@@ -8,11 +8,12 @@
 
 namespace Vorn {
 
-// Elements whose default is all zero bits: a large array of them comes zeroed from the platform, untouched until used.
+// Elements whose default is all zero bits: the platform provides a large array of them zeroed, and its pages stay
+// unused until an element is written.
 template <class T>
 inline constexpr bool kIsZeroByDefault = false;
 
-// A heap array of a set size with no spare room. An access outside fires its check and yields a scratch element.
+// A heap array of a set size with no spare room. An access outside fires its check and returns a scratch element.
 template <class T>
 class DynamicArray {
 public:

@@ -10,7 +10,7 @@
 
 namespace Vorn {
 
-// A heap array that grows from a full capacity to twice that plus one. An access outside fires its check and yields a
+// A heap array that grows from a full capacity to twice that plus one. An access outside fires its check and returns a
 // scratch element; storage beyond kMaxListBytes ends the process.
 template <class T>
 class DynamicVector {
@@ -45,7 +45,8 @@ public:
 
     void Append(const T& value) { Append() = value; }
 
-    // Makes room for `newMaxSize` elements in all; a smaller room than there is fires its check and changes nothing.
+    // Allocates room for `newMaxSize` elements in total. Less than the current capacity fires its check and changes
+    // nothing.
     void Reserve(int newMaxSize) {
         CheckAssert(newMaxSize >= 0, "newMaxSize >= 0");
         CheckAssert(newMaxSize >= m_MaxSize, "newMaxSize >= m_MaxSize");
@@ -54,7 +55,7 @@ public:
         }
     }
 
-    // Keeps the order of the elements behind.
+    // Keeps the order of the other elements.
     void RemoveAt(int i) {
         if (IsIndexValid(i)) {
             std::move(elements + i + 1, elements + m_CurrentSize, elements + i);

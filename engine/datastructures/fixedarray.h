@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// MAX_SIZE elements inline, all always present. An access outside fires its check and yields a scratch element.
+// MAX_SIZE elements inline, all always present. An access outside fires its check and returns a scratch element.
 template <class T, int MAX_SIZE>
 class FixedArray {
 public:

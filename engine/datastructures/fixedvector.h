@@ -11,7 +11,7 @@
 namespace Vorn {
 
 // Up to MAX_SIZE elements inline; only those up to the current size are constructed. An access outside, or an element
-// too many, fires its check and yields a scratch element; removing from an empty vector only fires its check.
+// too many, fires its check and returns a scratch element; removing from an empty vector only fires its check.
 template <class T, int MAX_SIZE>
 class FixedVector {
 public:
@@ -53,7 +53,7 @@ public:
         }
     }
 
-    // Keeps the order of the elements behind.
+    // Keeps the order of the other elements.
     void RemoveAt(int i) {
         if (IsIndexValid(i)) {
             std::move(begin() + i + 1, end(), begin() + i);

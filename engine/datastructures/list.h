@@ -59,10 +59,10 @@ public:
     Iterator begin() { return Iterator(first); }
     Iterator end() { return Iterator(); }
 
-    // Puts a copy of `value` behind the last element.
+    // Inserts a copy of `value` after the last element.
     void Append(const T& value) { Link(last, nullptr, value); }
 
-    // Puts a copy of `value` in front of the element at `where`.
+    // Inserts a copy of `value` before the element at `where`.
     void Insert(Iterator where, const T& value) {
         if (Owns(where)) {
             Link(where.m_pNode->previous, where.m_pNode, value);

@@ -4,8 +4,7 @@
 
 namespace Vorn {
 
-// A large part of an object that many of its kind do not need: made with its defaults at the first use, in memory of
-// its own.
+// A large part of an object that is often not needed: created with its defaults at the first use, on the heap.
 template <class T>
 class OnDemand {
 public:

@@ -10,8 +10,8 @@
 
 namespace Vorn {
 
-// Makes objects in room for SIZE of them, which is taken whole at the first use. When the room is used up, which is
-// logged, objects come from the heap.
+// Creates objects in a block of memory for SIZE of them, allocated at the first use. When the block is full, that is
+// logged, and further objects are allocated one by one.
 template <class T, int SIZE>
 class Pool {
 public:

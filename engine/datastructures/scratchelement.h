@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// The element that an access outside a container yields: fresh at each call, so that what is written to it is lost and
-// nothing outside the container is ever touched.
+// The element that an access outside a container returns: a new one at each call, so that writes to it have no effect
+// and no memory outside the container is touched.
 template <class T>
 T& ScratchElement() {
     static thread_local T scratch{};

@@ -36,7 +36,7 @@ bool FileSystem::FindInFolder(DataPath& result, std::u16string_view folder, std:
     return true;
 }
 
-// Below a folder whose candidate is too long every candidate is, so the depth is bounded.
+// If the path in a folder is too long, all paths below it are, so that the depth is bounded.
 bool FileSystem::FindInTree(DataPath& result, std::u16string_view folder, std::u16string_view fileName) const {
     if (FindInFolder(result, folder, fileName)) {
         return true;

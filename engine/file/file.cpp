@@ -12,10 +12,10 @@ namespace {
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-// Units encoded at a time; their bytes fit the buffer many times over.
+// Units that are encoded at a time; their bytes always fit into the buffer.
 constexpr std::size_t kTextPiece = 4096;
 
-// The first piece of a text that parts no surrogate pair.
+// The first piece of a text, which does not end inside a surrogate pair.
 std::u16string_view FirstPiece(std::u16string_view text) {
     std::u16string_view piece = text.substr(0, kTextPiece);
     if (piece.size() < text.size() && IsHighSurrogate(piece.back())) {

@@ -11,8 +11,8 @@ namespace Vorn {
 
 enum class FileTranslation { Text = 0, Binary = 1 };
 
-// A buffered file with the name it was opened under. Text files hold UTF-8 with a byte-order mark and CR LF on every
-// platform and show 16-bit units and single line feeds. Opened and closed by FileSystem.
+// A buffered file with the name it was opened under. Text files contain UTF-8 with a byte-order mark and CR LF on every
+// platform; the program sees 16-bit units and line feeds alone. Opened and closed by FileSystem.
 class File {
 public:
     // Units of the name that reports print, terminator included.
@@ -33,14 +33,14 @@ public:
         PrintText(text.View());
     }
 
-    // Prints a text as it stands; an unpaired surrogate becomes U+FFFD.
+    // Prints a text unchanged, except that an unpaired surrogate becomes U+FFFD.
     void PrintText(std::u16string_view text);
 
-    // Bytes that may be put at a place from BeginLine: twice what a line of 1024 units takes, and two numbers.
+    // Bytes that may be written at a place from BeginLine: twice those of a line of 1024 units, and two numbers.
     static constexpr std::size_t kLineRoom = 2 * 1024 * kMaxUtf8PerUnit + 2 * kNumberTextCapacity;
 
-    // A place in the buffer behind `indentation` tabs for the bytes of a line; CommitLine takes what was put there up
-    // to `end`, and without it nothing is printed.
+    // A place in the buffer, after `indentation` tabs, for the bytes of a line. CommitLine prints what was written
+    // there up to `end`; without it nothing is printed.
     VORN_ALWAYS_INLINE char* BeginLine(int indentation) {
         const auto tabs = static_cast<unsigned>(indentation);
         if (tabs > kTabs.size() || output.Room() < lineRoom + tabs) [[unlikely]] {
@@ -52,7 +52,7 @@ public:
     void CommitLine(char* end) { output.Commit(end); }
 
     // Reads a line into the buffer, line feed included; true at the end of the file, where the buffer keeps its
-    // content. A line without its line feed, or one longer than the buffer, is reported and read as far as it goes.
+    // content. A line without a line feed, or one longer than the buffer, is reported and read as far as possible.
     bool GetString(StringBuffer line) {
         int length = 0;
         return GetString(line, length);
@@ -61,29 +61,28 @@ public:
     // The same with the length of the line in code units, line feed included.
     bool GetString(StringBuffer line, int& length);
 
-    // Whether a reader that can do with UTF-8 text as it stands may take it from PeekText.
+    // Whether the bytes from PeekText on are UTF-8 text, for readers that can use them directly.
     bool HasPlainText() const { return lines.StandsAtByte(); }
 
-    // The bytes ahead, with a 0 and ReadBuffer::kSlack bytes in all behind the last one that is in the buffer. What the
-    // reader takes it skips; the bytes stay until something else is read.
+    // The next bytes, followed by ReadBuffer::kSlack more after the last one in the buffer, the first of them 0. The
+    // reader skips what it has used. The bytes stay until something else is read.
     const char* PeekText() const { return reinterpret_cast<const char*>(input.Cursor()); }
     void SkipText(const char* end) { input.SkipTo(reinterpret_cast<const unsigned char*>(end)); }
 
-    // The next bytes without taking them: as many as `count`, at most kFileBlock, and fewer only at the end of the
-    // file.
+    // The next bytes without skipping them: `count`, which is at most kFileBlock, or fewer at the end of the file.
     std::string_view PeekBytes(std::size_t count) {
         input.Ensure(count);
         return {PeekText(), std::min(count, input.Available())};
     }
 
-    // The bytes of a file that is read; of one without a size, like a pipe, those that it has given so far.
+    // The size in bytes of a file that is read; of one without a size, like a pipe, the bytes that were read so far.
     std::uint64_t GetSourceSize() const { return std::max(stream->GetSize(), input.BytesGiven()); }
 
     // Reports a line without its line feed.
     void ReportOpenLine() const;
 
-    // Reads up to `count` elements and returns how many were there whole; fewer are reported. The bytes of a partial
-    // element are consumed.
+    // Reads up to `count` elements and returns the number of complete ones; fewer are reported. The bytes of an
+    // incomplete element are skipped.
     int Read(void* elements, int elementSize, int count) {
         const int result = TryRead(elements, elementSize, count);
         if (result != count) [[unlikely]] {
@@ -103,8 +102,8 @@ public:
         return static_cast<int>(input.Take(elements, bytes) / size);
     }
 
-    // Takes the next bytes if they lie in the buffer, where they stay until something else is read; null and nothing
-    // taken if they do not.
+    // Skips the next bytes and returns their place if they are in the buffer, where they stay until something else is
+    // read. Null if they are not; nothing is skipped then.
     const unsigned char* TakeWhole(std::size_t bytes) {
         const unsigned char* place = input.Cursor();
         if (input.Available() < bytes) [[unlikely]] {
@@ -114,7 +113,7 @@ public:
         return place;
     }
 
-    // Reports a read of `count` elements that brought only `result`.
+    // Reports a read of `count` elements that returned only `result`.
     void ReportShortRead(int count, int result) const;
 
     void Write(const void* elements, int elementSize, int count) {
@@ -135,7 +134,7 @@ private:
     bool PutText(std::u16string_view text);
     char* BeginLineSlowly(int indentation);
 
-    // Tabs come in pieces of fixed size, which is quicker than counting them for the few that there are.
+    // Tabs are copied in pieces of fixed size, which is faster than to copy the exact number of a few.
     static constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
 
     std::unique_ptr<ByteStream> stream;
@@ -144,7 +143,7 @@ private:
     ReadBuffer input;
     LineReader lines{input};
     WriteBuffer output;
-    // More than there ever is where no text belongs.
+    // In a binary file more than the buffer ever has, so that printing a line takes the slow path.
     std::size_t lineRoom = translation == FileTranslation::Text ? kTabs.size() + kLineRoom : SIZE_MAX / 2;
     FixedString<kNameCapacity> name;
 };

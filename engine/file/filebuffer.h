@@ -7,13 +7,13 @@
 
 namespace Vorn {
 
-// The block of memory between a file and its user. Reading fills it, writing empties it, in blocks of kFileBlock bytes.
+// Files are read and written in blocks of this many bytes.
 inline constexpr std::size_t kFileBlock = 65536;
 
-// The buffered bytes of a file that is read. Unless it is opened it is that of an empty file.
+// The buffer of a file that is read. Before Open it acts as the buffer of an empty file.
 class ReadBuffer {
 public:
-    // Bytes that may be looked at behind the last one; the first of them is 0.
+    // Bytes that may be read after the last one; the first of them is 0.
     static constexpr std::size_t kSlack = 96;
 
     void Open(ByteStream& _file);
@@ -23,16 +23,16 @@ public:
     void Skip(std::size_t count) { cursor += count; }
     void SkipTo(const unsigned char* place) { cursor = place; }
 
-    // Tries to make `count` bytes available, at most kFileBlock; fewer are there only at the end of the file.
+    // Tries to make `count` bytes available, at most kFileBlock; there are fewer only at the end of the file.
     bool Ensure(std::size_t count) { return Available() >= count || Fill(count); }
 
     // Copies up to `count` bytes out and returns how many there were.
     std::size_t Take(void* bytes, std::size_t count);
 
-    // What was read of the file so far, used or not.
+    // The bytes that were read from the file so far.
     std::uint64_t BytesGiven() const { return given; }
 
-    // A read of the platform failed; the file counts as ended there.
+    // Whether a read of the platform failed; this counts as the end of the file.
     bool HasFailed() const { return failed; }
 
 private:
@@ -53,7 +53,7 @@ private:
     static constexpr std::size_t kFirstRead = 8192;
 };
 
-// The buffered bytes of a file that is written. Unless it is opened there is no room and every write fails.
+// The buffer of a file that is written. Before Open it has no room, and every write fails.
 class WriteBuffer {
 public:
     void Open(ByteStream& _file);
@@ -71,7 +71,7 @@ public:
 
     std::size_t Room() const { return static_cast<std::size_t>(end - cursor); }
 
-    // A place for `count` bytes, at most kFileBlock, and how many of them were then used.
+    // Reserve returns a place for `count` bytes, at most kFileBlock; Commit ends what was written there.
     char* Reserve(std::size_t count, bool& written) {
         written = count <= Room() || Flush();
         return cursor;

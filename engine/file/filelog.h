@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// Keeps reports in a text file, which is not owned.
+// Copies reports into a text file, which is not owned.
 class FileLog final : public ReportLog {
 public:
     explicit FileLog(File& _file) : file(_file) {}

@@ -28,11 +28,11 @@ public:
     // The bytes that there are to read; 0 where that is not known.
     virtual std::uint64_t GetSize() const { return 0; }
 
-    // Some platforms open a directory for reading, and only its reads fail.
+    // Some platforms can open a directory for reading; only reads fail.
     virtual bool IsDirectory() const { return false; }
 };
 
-// Where a FileSystem has its files: on the platform, or in memory.
+// The files of a FileSystem: those of the platform, or files in memory.
 class FileStore {
 public:
     virtual ~FileStore() = default;

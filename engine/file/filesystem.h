@@ -7,11 +7,11 @@
 
 namespace Vorn {
 
-// Where a data file was found.
+// The path of a data file.
 using DataPath = FixedString<260>;
 
-// Opens and closes files and keeps the list of those that are open. When the process ends abnormally, what was written
-// to them reaches the platform.
+// Opens and closes files and keeps a list of those that are open. When the process ends abnormally, their buffers are
+// flushed.
 class FileSystem final : public EndGuard {
 public:
     explicit FileSystem(FileStore& _store = NativeFiles()) : store(_store) {}
@@ -22,11 +22,11 @@ public:
     // Null, after a report, if the platform cannot open the name; a directory cannot be opened.
     File* Open(std::u16string_view name, FileAccess access, FileTranslation translation);
 
-    // Stands for opening a file once more that is open, for reading with another translation from the place where it
-    // stands: a source that cannot be opened twice looks like one that can. The name is checked as Open does.
+    // Acts as if an open file were opened once more for reading, with another translation, but continues at the current
+    // place: some sources, like pipes, cannot be opened twice. The name is checked as by Open.
     static void Reopen(File& file, std::u16string_view name, FileTranslation translation);
 
-    // What Open reports for a name that does not open.
+    // What Open reports for a name that cannot be opened.
     static void ReportUnopened(std::u16string_view name);
 
     // Frees the file. Null ends the process abnormally.
@@ -35,7 +35,7 @@ public:
     // Whether a file of that name exists; a directory is none.
     bool Exists(std::u16string_view name) const { return store.Exists(name); }
 
-    // Registers a folder that data files are looked for in. Mod folders come before all others.
+    // Registers a folder to search for data files. Mod folders are searched before all others.
     void AddModFolder(std::u16string_view folder) { modFolders.Append().Assign(folder); }
     void AddDataFolder(std::u16string_view folder) { dataFolders.Append().Assign(folder); }
 

@@ -12,7 +12,8 @@ namespace Vorn {
 
 namespace {
 constexpr std::size_t kLongestUtf8 = 4;
-}
+static_assert(kWidenBlock <= ReadBuffer::kSlack);
+} // namespace
 
 void LineReader::DetectEncoding() {
     encoding = Encoding::Utf8;
@@ -54,7 +55,7 @@ LineKind LineReader::ReadLine(char16_t* line, int capacity, int& length) {
     return length > 0 && line[length - 1] == u'\n' ? LineKind::Whole : LineKind::Open;
 }
 
-// The fast path for a line of plain text that lies in the buffer whole. Reads nothing where it returns false.
+// The fast path for a line of plain text that is complete in the buffer. If it returns false, nothing was read.
 bool LineReader::ReadPlainLine(char16_t* line, std::size_t limit, int& length) {
     if (!StandsAtByte() || limit <= kWidenBlock) {
         return false;

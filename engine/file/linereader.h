@@ -6,18 +6,18 @@
 
 namespace Vorn {
 
-// What ReadLine found: nothing at the end of the file, a line with its line feed, or a line without.
+// What ReadLine found: nothing at the end of the file, a line with a line feed, or a line without one.
 enum class LineKind { None, Whole, Open };
 
-// Reads a text file line by line as 16-bit code units. A byte-order mark at the start picks UTF-8 or UTF-16, else it is
-// UTF-8; CR LF comes as one line feed. Malformed input never fails: each malformed part reads as U+FFFD.
+// Reads a text file line by line as 16-bit code units. A byte-order mark selects UTF-8 or UTF-16; without one it is
+// UTF-8. CR LF is read as one line feed. Malformed input is no failure: each malformed part is read as U+FFFD.
 class LineReader {
 public:
     explicit LineReader(ReadBuffer& _input) : input(_input) {}
 
-    // Reads up to and with the next line feed, at most capacity - 1 units, and terminates. At the end of the file the
-    // line keeps its content. A line with U+0000 in it ends there as far as anybody can see, and counts as open.
-    // `length` counts the units that can be seen.
+    // Reads up to and including the next line feed, at most capacity - 1 units, and adds the terminator. At the end of
+    // the file the line keeps its content. A line with U+0000 in it ends there and counts as open. `length` is the
+    // number of units before that.
     LineKind ReadLine(char16_t* line, int capacity, int& length);
 
     // Whether the next unit begins with the next byte of a UTF-8 file.
@@ -35,7 +35,7 @@ private:
 
     ReadBuffer& input;
     Encoding encoding = Encoding::Unknown;
-    // The unit behind a carriage return that turned out not to belong to a line end.
+    // The unit after a carriage return that is not part of a line end.
     std::optional<char16_t> heldBack;
     std::optional<char16_t> lowSurrogate;
     bool standsAtByte = false;

@@ -57,7 +57,7 @@ bool CloseDescriptor(int descriptor) {
     return _close(descriptor) == 0;
 }
 
-// Calls `take` with the name of each folder in a folder, but those that are links.
+// Calls `take` with the name of each folder in a folder, except links.
 template <class Take>
 void ForEachSubfolder(std::u16string_view folder, Take take) {
     std::wstring pattern(folder.begin(), folder.end());
@@ -120,7 +120,7 @@ bool CloseDescriptor(int descriptor) {
     return close(descriptor) == 0;
 }
 
-// Calls `take` with the name of each folder in a folder, but those that are links.
+// Calls `take` with the name of each folder in a folder, except links.
 template <class Take>
 void ForEachSubfolder(std::u16string_view folder, Take take) {
     DIR* listing = opendir(BytesFromName(folder).c_str());

@@ -8,14 +8,14 @@
 
 namespace Vorn {
 
-// An open file of the platform, unbuffered, bytes as they are. The only class that knows how files are opened. Since
-// opening, reading and writing may block for long, the reports that were made before are written first.
+// An open file of the platform, unbuffered and binary. Only this class calls the platform for files. Opening, reading
+// and writing may block for long, so that buffered reports are flushed before.
 class NativeFile final : public ByteStream {
 public:
     NativeFile() = default;
     ~NativeFile() override { Close(); }
 
-    // Opens for reading, or truncates or creates for writing. The name goes to the platform as it stands.
+    // Opens for reading, or truncates or creates for writing. The name is passed to the platform unchanged.
     bool Open(std::u16string_view name, FileAccess access);
 
     std::ptrdiff_t Read(void* bytes, std::size_t count) override;
@@ -24,7 +24,7 @@ public:
     std::uint64_t GetSize() const override;
     bool IsDirectory() const override;
 
-    // Moves the place of the next access; past the end is allowed.
+    // Sets the position of the next access, which may be past the end.
     bool Seek(long long position);
 
 private:
@@ -36,13 +36,13 @@ private:
 // The files of the platform.
 FileStore& NativeFiles();
 
-// Takes a file's protection against writing off; false if that fails or there is no such file.
+// Removes the write protection of a file; false if that fails or there is no such file.
 bool MakeWritable(std::u16string_view name);
 
 // Whether a file of that name exists, links followed; a directory is none.
 bool IsExistingFile(std::u16string_view name);
 
-// Between the folders of a path that the program makes itself.
+// Separates folders in paths that the program builds.
 #ifdef _WIN32
 inline constexpr char16_t kPathSeparator = u'\\';
 #else

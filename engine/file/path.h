@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// The parts of a path, on every platform: both slashes part folders, a single letter with a colon in front is a drive,
-// and the extension begins at the last dot of the rest. The parts together are the path again.
+// The parts of a path, the same on every platform: both slashes separate folders, a single letter and a colon at the
+// start are a drive, and the extension begins at the last dot of the rest. The parts together are the path again.
 struct PathParts {
     std::u16string_view drive;
     std::u16string_view folder;

@@ -8,7 +8,7 @@ std::uint32_t PackChannel(float channel) {
     if (channel >= 1.0f) {
         return 255;
     }
-    // Written so that not a number is caught too: its conversion to an integer has no defined result.
+    // This form of the condition includes NaN, whose conversion to an integer is undefined.
     if (!(channel > 0.0f)) {
         return 0;
     }

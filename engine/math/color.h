@@ -11,7 +11,8 @@ struct Color {
     float blue = 0.0f;
     float alpha = 0.0f;
 
-    // Packs to 8 bits a channel, rounded and clamped: alpha on top, then red, green, blue. Not a number gives 0.
+    // Packs to 8 bits a channel, rounded and clamped: alpha in the highest byte, then red, green and blue. A NaN
+    // becomes 0.
     std::uint32_t ToUInt() const;
 
     static Color FromUInt(std::uint32_t packed);

@@ -6,7 +6,7 @@
 namespace Vorn {
 
 // A square matrix of floats, row after row, all 0 at first. An access outside fires the checks that the two kinds below
-// name and yields a scratch element.
+// name and returns a scratch element.
 template <int N>
 struct SquareMatrix {
     float rows[N][N] = {};

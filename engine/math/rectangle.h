@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// Edges in pixels, in no way normalised. Width and height wrap around in 32 bits.
+// Edges in pixels, which may be in any order. Width and height wrap around in 32 bits.
 struct Rectangle {
     std::int32_t left = 0;
     std::int32_t top = 0;

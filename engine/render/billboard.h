@@ -12,7 +12,7 @@ struct BillboardQuad {
     float bottom;
 };
 
-// The square of an anchor, which says where in the square its point lies: centre, left, right, top left, top, top
+// The square of an anchor, which is the position of its point in the square: centre, left, right, top left, top, top
 // right, bottom right, bottom, bottom left, from 0. Any other number fires the check "false" and gives zeros.
 BillboardQuad QuadOfAnchor(std::uint32_t anchor);
 

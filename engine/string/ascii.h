@@ -16,11 +16,13 @@
 
 namespace Vorn {
 
-// What nearly every line goes through. The conversions between bytes and code units work on plain text only and say so
-// of anything else, with the output undefined then; the caller has a slow path.
+// The fast path of nearly every line: bytes are compared with code units and converted, eight or sixteen at a time. The
+// conversions handle plain text alone. They return false or 0 for any other, with an undefined output, and the caller
+// has a slow path.
 
 namespace Ascii {
 
+// The slow twins of the functions below, for short texts and other platforms.
 inline bool EqualsEach(const char* bytes, std::u16string_view text) {
     return std::equal(text.begin(), text.end(), bytes,
                       [](char16_t unit, char byte) { return unit == static_cast<unsigned char>(byte); });
@@ -40,10 +42,15 @@ inline bool NarrowEach(const char16_t* units, std::size_t count, char* out) {
 #ifdef VORN_HAS_SSE2
 
 // The last block of every loop overlaps the one before, so that nothing outside the text is read or written. A text
-// shorter than a block is taken as two halves that overlap.
+// shorter than a block is handled as two halves that overlap: "abcde" as "abcd" and "bcde".
 namespace Ascii {
 
 inline constexpr std::size_t kUnits = 8;
+
+// The bits below the lowest one that is set, or all if none is: 0b0011 for 0b10100.
+constexpr unsigned BitsBelowLowest(unsigned bits) {
+    return (bits & (0 - bits)) - 1;
+}
 
 inline const __m128i* Block(const void* place) {
     return static_cast<const __m128i*>(place);
@@ -59,8 +66,8 @@ Word Load(const void* place) {
     return word;
 }
 
-// The first and the last units of a text, as many of each as half of `Ends` has bytes; they overlap where the text is
-// shorter.
+// The first and the last units of a text side by side, four and four for an `Ends` of 64 bits, else two and two:
+// "abcdbcde" of "abcde".
 template <class Ends>
 VORN_ALWAYS_INLINE __m128i LoadEnds(const char16_t* units, std::size_t count) {
     if constexpr (sizeof(Ends) == 8) {
@@ -70,23 +77,26 @@ VORN_ALWAYS_INLINE __m128i LoadEnds(const char16_t* units, std::size_t count) {
     }
 }
 
-// The same narrowed to bytes, plain text or not.
+// The same units as bytes, the first one lowest: 0x65646362'64636261. A unit above 255 becomes 0xFF.
 template <class Ends>
 VORN_ALWAYS_INLINE Ends NarrowEnds(__m128i units) {
     return static_cast<Ends>(_mm_cvtsi128_si64(_mm_packus_epi16(units, units)));
 }
 
+// Whether a text of `count` units, between the sizes of `Half` and `Ends`, equals the bytes.
 template <class Ends, class Half>
 VORN_ALWAYS_INLINE bool EqualsEnds(const char* bytes, const char16_t* units, std::size_t count) {
     const Ends ends = Load<Half>(bytes) | Ends{Load<Half>(bytes + count - sizeof(Half))} << (8 * sizeof(Half));
     return ends == NarrowEnds<Ends>(LoadEnds<Ends>(units, count));
 }
 
-// Units that are no plain text saturate to bytes below the blank, if those have a sign.
+// Sets each byte that is plain text, as NarrowEnds makes them, to 0xFF and all others to 0. Seen as signed numbers,
+// control characters and bytes from 0x80 on are below the blank: "a\tb" gives FF 00 FF.
 VORN_ALWAYS_INLINE __m128i ArePlain(__m128i bytes) {
     return _mm_cmpgt_epi8(bytes, _mm_set1_epi8(' ' - 1));
 }
 
+// Writes a text of such a size as bytes. False if some unit was not plain.
 template <class Ends, class Half>
 VORN_ALWAYS_INLINE bool PutEnds(const char16_t* units, std::size_t count, char* out) {
     const __m128i loaded = LoadEnds<Ends>(units, count);
@@ -101,8 +111,9 @@ VORN_ALWAYS_INLINE bool PutEnds(const char16_t* units, std::size_t count, char* 
 
 } // namespace Ascii
 
-// Widens plain text, bytes from U+0001 to U+007F but no line feed, up to and with `end`. Returns how many bytes that
-// were, or 0 if there is anything else or no end within `count` bytes. Both sides need kWidenBlock places behind those.
+// Widens plain text, bytes from U+0001 to U+007F without line feeds, up to and including `end`. Returns how many bytes
+// that were, or 0 if there is anything else or no end within `count` bytes. Both sides need kWidenBlock places after
+// those.
 inline constexpr std::size_t kWidenBlock = 16;
 
 inline std::size_t WidenUntil(const unsigned char* bytes, std::size_t count, char16_t* out, char end) {
@@ -115,8 +126,7 @@ inline std::size_t WidenUntil(const unsigned char* bytes, std::size_t count, cha
         const __m128i noText = _mm_or_si128(_mm_cmpeq_epi8(block, lineFeed), _mm_cmpeq_epi8(block, zero));
         const auto odd = static_cast<unsigned>(_mm_movemask_epi8(_mm_or_si128(block, noText)));
         const auto ends = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, _mm_set1_epi8(end))));
-        // What stands in front of the end; everything, where there is none.
-        if ((odd & ((ends & (0 - ends)) - 1)) != 0) {
+        if ((odd & Ascii::BitsBelowLowest(ends)) != 0) {
             return 0;
         }
         if (ends != 0) {
@@ -127,7 +137,7 @@ inline std::size_t WidenUntil(const unsigned char* bytes, std::size_t count, cha
     return 0;
 }
 
-// Whether the bytes are those of a plain text.
+// Whether the bytes begin with this text, which must be ASCII.
 VORN_ALWAYS_INLINE bool EqualsAscii(const char* bytes, std::u16string_view text) {
     using namespace Ascii;
     const std::size_t count = text.size();
@@ -151,7 +161,7 @@ VORN_ALWAYS_INLINE bool EqualsAscii(const char* bytes, std::u16string_view text)
     return EqualsEach(bytes, text);
 }
 
-// Narrows units that are all of U+0020 to U+007F.
+// Narrows units that are all from U+0020 to U+007F.
 VORN_ALWAYS_INLINE bool NarrowAscii(const char16_t* units, std::size_t count, char* out) {
     using namespace Ascii;
     if (count >= kUnits) {

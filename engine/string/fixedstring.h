@@ -5,8 +5,8 @@
 
 namespace Vorn {
 
-// Text of at most N - 1 code units held inline, always terminated, empty at construction. The units behind the
-// terminator are never initialised, which keeps records with many texts cheap to construct and to copy.
+// Text of at most N - 1 code units held inline, always terminated, empty at construction. The units after the
+// terminator are not initialised, so that records with many texts are cheap to construct and to copy.
 template <int N>
 class FixedString {
     static_assert(N > 0, "BUFFER_SIZE > 0");
@@ -16,7 +16,7 @@ public:
 
     FixedString() { units[0] = u'\0'; }
 
-    // Too long a text is cut with the checks of Copy; a null text fires "s != NULL" and counts as empty.
+    // A text that is too long is cut with the checks of Copy; a null text fires "s != NULL" and counts as empty.
     explicit FixedString(const char16_t* s) : FixedString() {
         CheckAssert(s != nullptr, "s != NULL");
         Assign(s != nullptr ? std::u16string_view(s) : std::u16string_view());
@@ -31,7 +31,7 @@ public:
         return *this;
     }
 
-    // Too long a text is cut with the checks of Copy.
+    // A text that is too long is cut with the checks of Copy.
     void Assign(std::u16string_view text) { Copy(Buffer(), text); }
 
     void Clear() { units[0] = u'\0'; }

@@ -22,17 +22,17 @@ char* PutHex64(char* out, std::uint64_t value);
 // PutFixed with six places, for the floats that content files are made of.
 char* PutFixed6(char* out, float value);
 
-// Most numbers, in a few instructions each. Some bytes behind the text are overwritten.
+// The fast path for most numbers. Some bytes after the text are overwritten.
 namespace PlainNumber {
 
 inline constexpr std::uint32_t kThousand = 1000;
 inline constexpr std::uint32_t kMillion = 1000000;
 
-// How a number below 1000 is put.
+// The texts of a number below 1000.
 struct Text {
     // Three digits.
     char padded[4];
-    // As many as it takes, and behind the third place how many that are.
+    // No more digits than needed, and in the fourth place their number.
     char digits[4];
 };
 
@@ -81,22 +81,27 @@ VORN_ALWAYS_INLINE char* PutInt(char* out, std::int32_t value) {
     return PutUint(PutSign(out, value < 0), static_cast<std::uint32_t>(value < 0 ? -value : value));
 }
 
+// The bits without the sign: 0x3F800000 for 1 and for -1.
 constexpr std::uint32_t MagnitudeBits(float value) {
     return std::bit_cast<std::uint32_t>(value) & 0x7FFFFFFF;
 }
 
-// The bits of positive floats sort like the floats, with everything that is not finite on top.
+// The bits of positive floats have the same order as the floats, and infinity and NaN are above all.
 VORN_ALWAYS_INLINE bool FitsFixed6(float value) {
     return MagnitudeBits(value) < MagnitudeBits(static_cast<float>(kMillion));
 }
 
-// The product is exact, a number of 24 bits by one of 20. Adding 2^52 leaves its integral part in the low bits, rounded
-// to nearest, ties to even.
+// A number from 0 to 2^51 rounded to the nearest whole one, ties to even: 2 for 2.5. From 2^52 on doubles are whole
+// numbers, so that adding 2^52 rounds, and leaves the result in the low bits.
+constexpr std::uint64_t Rounded(double value) {
+    constexpr double kWhole = 4503599627370496.0;
+    return std::bit_cast<std::uint64_t>(value + kWhole) - std::bit_cast<std::uint64_t>(kWhole);
+}
+
+// The product is exact, a number of 24 bits by one of 20.
 VORN_ALWAYS_INLINE char* PutFixed6(char* out, float value) {
-    constexpr double kInteger = 4503599627370496.0;
     const auto magnitude = static_cast<double>(std::bit_cast<float>(MagnitudeBits(value)));
-    const double rounded = magnitude * static_cast<double>(kMillion) + kInteger;
-    const std::uint64_t millionths = std::bit_cast<std::uint64_t>(rounded) - std::bit_cast<std::uint64_t>(kInteger);
+    const std::uint64_t millionths = Rounded(magnitude * static_cast<double>(kMillion));
     const auto units = static_cast<std::uint32_t>(millionths / kMillion);
     const auto decimals = static_cast<std::uint32_t>(millionths - std::uint64_t{units} * kMillion);
     out = PutUint(PutSign(out, std::bit_cast<std::uint32_t>(value) >> 31 != 0), units);

@@ -1,17 +1,14 @@
 #pragma once
 
 #include "engine/string/ascii.h"
-
-#include <bit>
-#include <cstdint>
-#include <cstring>
+#include "engine/string/digits.h"
 
 namespace Vorn {
 
-// Takes values straight from the bytes of a text file in exactly the form that they are written in, step by step like
-// Scanner. A step that meets any other form, valid or not, ends it, and the caller takes the slow path with the whole
-// line; so nothing here has to tell good from bad. Needs kPlainSlack readable bytes behind the text, the first of them
-// 0. What it takes is always shorter than kLongestPlainLine.
+// The fast path of reading: scans the bytes of a text file step by step like Scanner, but accepts only the form in
+// which values are written. A step that finds any other form, valid or not, fails, and the caller uses the slow path
+// for the whole line. Needs kPlainSlack readable bytes after the text, the first of them 0. An accepted line is shorter
+// than kLongestPlainLine.
 inline constexpr std::size_t kPlainSlack = 96;
 inline constexpr std::size_t kLongestPlainLine = 1024;
 
@@ -21,7 +18,8 @@ public:
 
     const char* Cursor() const { return cursor; }
 
-    // Up to seven. Counted by branches, which are foreseen, where a computed count would hold up what follows.
+    // Up to seven. Branches are faster here than a computed count: they are predicted well, and what follows need not
+    // wait.
     VORN_ALWAYS_INLINE PlainScanner& Tabs() {
         for (const char* limit = cursor + 7; *cursor == '\t' && cursor != limit;) {
             ++cursor;
@@ -40,7 +38,7 @@ public:
         return *this;
     }
 
-    // A text that leaves some of the slack.
+    // A text of at most kLongestWord bytes.
     VORN_ALWAYS_INLINE PlainScanner& Word(std::u16string_view word) {
         if (word.size() > kLongestWord || !EqualsAscii(cursor, word)) [[unlikely]] {
             return Fail();
@@ -49,20 +47,20 @@ public:
         return *this;
     }
 
-    // Up to seven digits. More stay where they are and end the next step, since none begins with a digit.
+    // Up to seven digits. Further digits make the next step fail, since no step begins with a digit.
     VORN_ALWAYS_INLINE PlainScanner& Int(std::int32_t& value) {
         const char* start = cursor;
         const bool negative = *start == '-';
         if (negative) [[unlikely]] {
             ++start;
         }
-        const std::uint64_t digits = WordAt(start) ^ kEachByte * '0';
-        const std::size_t count = BytesBelow(BeyondNine(digits) | kLastByte);
+        const std::uint64_t digits = Digits::FromText(Digits::WordAt(start));
+        const std::size_t count = Digits::BytesBelow(Digits::BeyondNine(digits) | kLastByte);
         if (count == 0) [[unlikely]] {
             return Fail();
         }
         cursor = start + count;
-        const auto magnitude = static_cast<std::int32_t>(SumOfDigits(digits << (64 - 8 * count)));
+        const auto magnitude = static_cast<std::int32_t>(Digits::Sum(digits << (64 - 8 * count)));
         value = negative ? -magnitude : magnitude;
         return *this;
     }
@@ -75,8 +73,9 @@ public:
         if (!(start[1] == '.' ? ShortMillionths(start, millionths) : LongMillionths(start, millionths))) [[unlikely]] {
             return Fail();
         }
-        // To round to 64 bits first does no harm: six decimals are either the middle between two floats or farther from
-        // it than that rounding goes. The sign needs no branch, which could hardly be foreseen.
+        // Rounding to 64 bits first is harmless: a number with six decimals is either exactly in the middle between two
+        // floats or farther from it than the rounding error. The sign is set without a branch, which would be predicted
+        // badly.
         const auto magnitude = static_cast<float>(static_cast<double>(static_cast<std::int64_t>(millionths)) / 1e6);
         value = std::bit_cast<float>(std::bit_cast<std::uint32_t>(magnitude) | std::uint32_t{negative} << 31);
         return *this;
@@ -97,7 +96,7 @@ public:
         return *this;
     }
 
-    // A quoted text that fits a buffer of `bufferSize` units with some room to spare.
+    // A quoted text that leaves kWidenBlock units free in a buffer of `bufferSize` units.
     PlainScanner& Quoted(char16_t* buffer, int bufferSize) {
         constexpr int kRoom = static_cast<int>(kWidenBlock);
         if (*cursor != '"' || bufferSize <= kRoom) [[unlikely]] {
@@ -114,7 +113,7 @@ public:
         return *this;
     }
 
-    // Whether the line ends here and all steps so far met their form.
+    // Whether the line ends here and no step has failed.
     VORN_ALWAYS_INLINE bool LineEnd() {
         const bool hasReturn = std::memcmp(cursor, "\r\n", 2) == 0;
         if (!hasReturn && *cursor != '\n') [[unlikely]] {
@@ -127,19 +126,11 @@ public:
 private:
     static constexpr std::size_t kLongestWord = kPlainSlack - 2 * kWidenBlock;
     static constexpr std::size_t kLongestText = kLongestPlainLine / 2;
-    static constexpr std::uint64_t kEachByte = 0x0101010101010101;
 
-    // Beside other bits it makes BytesBelow find seven bytes at most.
+    // With it BytesBelow finds seven bytes at most.
     static constexpr std::uint64_t kLastByte = std::uint64_t{0x80} << 56;
 
-    // The last digit ahead of a point, the point and the decimals, which come to the digits and a 0 for the point. What
-    // is added takes a digit beyond 9 to its top bit; of the point every bit is wrong.
-    static constexpr std::uint64_t kPointByte = 0xFF00;
-    static constexpr std::uint64_t kPointAndSix = kEachByte * '0' ^ std::uint64_t{'0' ^ '.'} << 8;
-    static constexpr std::uint64_t kBeyondNine = kEachByte * (0x7F - 9) & ~kPointByte;
-    static constexpr std::uint64_t kWrongBits = kEachByte * 0x80 | kPointByte;
-
-    // No step fits what follows but an empty word or text.
+    // What a failed scanner points to: only an empty word matches here.
     static constexpr char kNothing[kPlainSlack] = {};
 
     PlainScanner& Fail() {
@@ -147,45 +138,15 @@ private:
         return *this;
     }
 
-    // Eight bytes, the first one lowest.
-    static std::uint64_t WordAt(const char* p) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, p, sizeof word);
-        if constexpr (std::endian::native == std::endian::big) {
-            word = SwapBytes(word);
-        }
-        return word;
-    }
-
-    static std::uint64_t SwapBytes(std::uint64_t word) {
-        std::uint64_t swapped = 0;
-        for (int i = 0; i < 8; ++i, word >>= 8) {
-            swapped = swapped << 8 | (word & 0xFF);
-        }
-        return swapped;
-    }
-
-    // How many bytes there are below the lowest one that has a bit.
-    static std::size_t BytesBelow(std::uint64_t bits) { return static_cast<unsigned>(std::countr_zero(bits)) / 8; }
-
-    // The top bit of each byte beyond 9, up to the first one and with it; behind a byte that is not, anything.
-    VORN_ALWAYS_INLINE static std::uint64_t BeyondNine(std::uint64_t digits) {
-        return (digits | (digits + kEachByte * (0x7F - 9))) & kEachByte * 0x80;
-    }
-
-    static bool AreDigitPointAndSix(std::uint64_t digits) {
-        return ((digits | (digits + kBeyondNine)) & kWrongBits) == 0;
-    }
-
-    // A float with one digit ahead of the point, which goes to the place of the point.
+    // A float with one digit before the point.
     VORN_ALWAYS_INLINE bool ShortMillionths(const char* start, std::uint64_t& millionths) {
-        const std::uint64_t digits = WordAt(start) ^ kPointAndSix;
-        millionths = SumOfDigits(digits + (digits & 0xFF) * 0xFF);
+        const std::uint64_t digits = Digits::WordAt(start) ^ Digits::kPointAndSix;
+        millionths = Digits::Millionths(digits);
         cursor = start + 8;
-        return AreDigitPointAndSix(digits);
+        return Digits::ArePointAndSix(digits);
     }
 
-    // A float with any other number of digits there.
+    // A float with any other number of digits before it.
     VORN_ALWAYS_INLINE bool LongMillionths(const char* start, std::uint64_t& millionths) {
         std::uint64_t number = 0;
         const char* point = start;
@@ -197,17 +158,11 @@ private:
         if (point == start) [[unlikely]] {
             return false;
         }
-        const std::uint64_t digits = WordAt(point - 1) ^ kPointAndSix;
-        millionths = number * 1000000 + SumOfDigits(digits & ~std::uint64_t{0xFFFF});
+        const std::uint64_t digits = Digits::WordAt(point - 1) ^ Digits::kPointAndSix;
+        constexpr std::uint64_t kDecimals = ~std::uint64_t{0xFFFF};
+        millionths = number * 1000000 + Digits::Sum(digits & kDecimals);
         cursor = point + 7;
-        return AreDigitPointAndSix(digits);
-    }
-
-    // The number that the eight bytes are the digits of: summed by pairs, then by fours, each sum on top of its lanes.
-    VORN_ALWAYS_INLINE static std::uint64_t SumOfDigits(std::uint64_t digits) {
-        const std::uint64_t pairs = digits * (1 + (10 << 8)) >> 8 & 0x00FF00FF00FF00FF;
-        const std::uint64_t fours = pairs * (1 + (100 << 16)) >> 16 & 0x0000FFFF0000FFFF;
-        return fours * (1 + (std::uint64_t{10000} << 32)) >> 32;
+        return Digits::ArePointAndSix(digits);
     }
 
     static std::uint32_t DigitAt(const char* p) {

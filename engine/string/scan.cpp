@@ -1,5 +1,7 @@
 #include "engine/string/scan.h"
 
+#include "engine/string/digits.h"
+
 #include <algorithm>
 #include <bit>
 #include <charconv>
@@ -16,10 +18,8 @@ namespace {
 constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                    1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
+// All whole numbers up to this one are doubles.
 constexpr std::uint64_t kExactDoubleLimit = std::uint64_t{1} << 53;
-
-// More than a line of a file holds.
-constexpr std::size_t kNumberLimit = 1024;
 
 bool IsDigit(char16_t unit) {
     return static_cast<char16_t>(unit - u'0') < 10;
@@ -53,21 +53,15 @@ std::uint64_t TakeDigits(const char16_t*& p, std::uint64_t number) {
     return number;
 }
 
-// Four digits at once, as 16-bit lanes of a word: one product sums up all lanes with their powers of ten in the top
-// one.
-bool TakeFourDigits(const char16_t*& p, std::uint64_t& number) {
-    constexpr std::uint64_t kEachLane = 0x0001000100010001;
-    constexpr std::uint64_t kPowers = std::uint64_t{1000} << 48 | std::uint64_t{100} << 32 | 10 << 16 | 1;
+// Appends four digits at once if all four units are digits. For little-endian platforms.
+void TakeFourDigits(const char16_t*& p, std::uint64_t& number) {
     std::uint64_t lanes = 0;
     std::memcpy(&lanes, p, sizeof lanes);
-    lanes -= kEachLane * u'0';
-    // A lane beyond 9 shows in its top bit, by itself or by the addition.
-    if (((lanes | (lanes + kEachLane * (0x7FFF - 9))) & kEachLane << 15) != 0) {
-        return false;
+    lanes -= Digits::kEachLane * u'0';
+    if (!Digits::HasLaneBeyondNine(lanes)) {
+        number = number * 10000 + Digits::SumOfLanes(lanes);
+        p += 4;
     }
-    number = number * 10000 + (lanes * kPowers >> 48);
-    p += 4;
-    return true;
 }
 
 // Signed decimal digits modulo 2^64.
@@ -126,7 +120,7 @@ bool ScanWord(const char16_t*& cursor, Real& value) {
         return true;
     }
     if (StartsWithWord(p, u"nan")) {
-        // Not the product with the sign: the sign bit of a product with a not-a-number is anybody's.
+        // Not the product with the sign: the sign bit of a product with NaN is not defined.
         using Bits = std::conditional_t<sizeof(Real) == 4, std::uint32_t, std::uint64_t>;
         constexpr Bits kSignBit = Bits{1} << (sizeof(Bits) * 8 - 1);
         value = std::bit_cast<Real>(std::bit_cast<Bits>(std::numeric_limits<Real>::quiet_NaN()) |
@@ -158,7 +152,7 @@ bool IsHuge(std::string_view text) {
     return point - first + power > 0;
 }
 
-// The slow path: the library's exact conversion of the text as it stands.
+// The slow path: the exact conversion of the standard library.
 template <class Real>
 bool ScanReal(const char16_t*& cursor, Real& value) {
     const char16_t* p = SkipWhiteSpace(cursor);
@@ -167,7 +161,7 @@ bool ScanReal(const char16_t*& cursor, Real& value) {
     if (end == p) {
         return ScanWord(cursor, value);
     }
-    char text[kNumberLimit];
+    char text[Scanner::kLongestNumber];
     const auto length = std::min(static_cast<std::size_t>(end - p), sizeof text);
     std::transform(p, p + length, text, [](char16_t unit) { return static_cast<char>(unit); });
     Real magnitude = 0;
@@ -180,12 +174,12 @@ bool ScanReal(const char16_t*& cursor, Real& value) {
     return true;
 }
 
-// Divides in 64 bits, where mantissa and power are exact. The quotient is then rounded once, and rounding it again to
-// 32 bits is safe unless it lies on the middle between two floats, where it may hide a remainder.
+// Divides in 64 bits, where mantissa and power are exact. The quotient is then rounded once. To round it again to 32
+// bits is safe unless it lies in the middle between two floats, where it may hide a remainder.
 bool DivideExactly(std::uint64_t mantissa, std::ptrdiff_t places, float& value) {
     const double quotient = static_cast<double>(mantissa) / kPowersOfTen[places];
     value = static_cast<float>(quotient);
-    return mantissa <= kExactDoubleLimit && (std::bit_cast<std::uint64_t>(quotient) & 0x1FFFFFFF) != 0x10000000;
+    return mantissa <= kExactDoubleLimit && !IsMiddleOfFloats(quotient);
 }
 
 } // namespace
@@ -226,7 +220,7 @@ bool Scanner::ScanHex(std::uint32_t& value) {
     return true;
 }
 
-// Takes short numbers without an exponent, which is nearly all, straight from their digits.
+// The fast path is for short numbers without an exponent, which nearly all are.
 bool Scanner::ScanFloat(float& value) {
     constexpr std::ptrdiff_t kExactDigits = 19;
     const char16_t* p = SkipWhiteSpace(cursor);

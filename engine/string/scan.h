@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <string_view>
 
@@ -17,15 +18,24 @@ inline const char16_t* SkipWhiteSpace(const char16_t* text) {
     return text;
 }
 
-// Scans a terminated text step by step after a form. The first step that does not fit ends the scan: it and all later
-// steps store nothing. `Stored` counts the numbers stored, as a formatted scan does.
+// Whether a double within the range of floats lies in the middle between two of them: of the 29 bits that a float does
+// not have, the top one is set alone. 16777217.0 does, with the bits 0x4170000010000000.
+constexpr bool IsMiddleOfFloats(double value) {
+    return (std::bit_cast<std::uint64_t>(value) & 0x1FFFFFFF) == 0x10000000;
+}
+
+// Scans a terminated text step by step. The first step that does not match ends the scan: it and all later steps store
+// nothing. `Stored` is the number of values stored so far.
 //
-// Integers are decimal, taken modulo their width; what follows the digits is left for the next step. Floats are the
-// longest prefix of digits, point and complete exponent, or inf, infinity, nan in any case, rounded once to nearest
-// even; overflow stores an infinity. No hexadecimal floats, no locale.
+// Integers are decimal and wrap around; what follows the digits is left to the next step. Floats are the longest prefix
+// of digits, point and complete exponent, or inf, infinity, nan in any case, rounded once to nearest even; overflow
+// stores an infinity. No hexadecimal floats, no locale.
 class Scanner {
 public:
-    // The text must have its terminator behind it.
+    // The most units of a float or a double that are examined; lines of files are not longer.
+    static constexpr std::size_t kLongestNumber = 1024;
+
+    // The text must be followed by a terminator.
     explicit Scanner(std::u16string_view text) : cursor(text.data()), end(text.data() + text.size()) {}
 
     // Any run of white space, also none.
@@ -34,7 +44,7 @@ public:
         return *this;
     }
 
-    // Exactly this unit, right here.
+    // Exactly this unit, without white space before it.
     Scanner& Literal(char16_t unit) {
         if (*cursor == unit) {
             ++cursor;
@@ -67,7 +77,7 @@ private:
     bool ScanFloat(float& value);
     bool ScanDouble(double& value);
 
-    // An empty text fits no further step but a blank.
+    // At the end of the text no further step matches but a blank.
     void Fail() { cursor = end; }
 
     Scanner& Store(bool scanned) {

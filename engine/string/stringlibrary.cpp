@@ -16,7 +16,7 @@ bool IsInside(StringBuffer destination, std::u16string_view source) {
     return source.data() != nullptr && source.data() == destination.m_Buffer;
 }
 
-// Puts `source` at `position`, cut at the capacity; the copy tolerates a source inside the destination.
+// Puts `source` at `position`, cut at the capacity. The source may overlap the destination.
 void Place(StringBuffer destination, int position, std::u16string_view source) {
     const auto room = static_cast<std::size_t>(destination.m_BufferSize - 1 - position);
     const std::size_t count = std::min(source.size(), room);

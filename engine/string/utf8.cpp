@@ -12,7 +12,7 @@ struct LeadByte {
     unsigned char secondHigh;
 };
 
-// The second byte's bounds keep out overlong forms, surrogates and what lies above U+10FFFF.
+// The bounds of the second byte exclude overlong forms, surrogates and code points above U+10FFFF.
 LeadByte ClassifyLead(unsigned char lead) {
     if (lead >= 0xC2 && lead <= 0xDF) {
         return {2, 0x80, 0xBF};

@@ -9,7 +9,7 @@
 
 namespace Vorn {
 
-// A code point taken from the front of a UTF-8 text, with the number of bytes it takes.
+// The first code point of a UTF-8 text, and its length in bytes.
 struct DecodedPoint {
     std::uint32_t point;
     int length;
@@ -20,8 +20,8 @@ struct DecodedPoint {
 // that could have begun a code point, at least 1.
 DecodedPoint DecodeUtf8(const unsigned char* bytes, std::size_t count);
 
-// The name of a file or an argument as the platform gives it in bytes. Every byte string survives the way there and
-// back: a byte that is no UTF-8 becomes the unpaired unit U+DC80 + (byte - 0x80).
+// The name of a file or an argument as the platform gives it in bytes. Any bytes can be converted and converted back
+// unchanged: a byte that is no UTF-8 becomes the unpaired unit U+DC80 + (byte - 0x80).
 std::u16string NameFromBytes(std::string_view bytes);
 std::string BytesFromName(std::u16string_view name);
 

@@ -59,7 +59,7 @@ Brush::TextureQuad Brush::StateInfo::GetTextureQuad(int i, const Margins& margin
     if (texture == nullptr || i < 0 || i >= kQuadCount) {
         return {{{0, 0}, {1, 0}, {1, 1}, {0, 1}}};
     }
-    // Edges in pixels from the outside to the inside and out again; sums wrap as the box's own do.
+    // Edges in pixels from one side to the other; sums wrap around like those of the box.
     const auto edge = [](std::int32_t side, std::uint32_t inward) {
         return static_cast<float>(static_cast<std::int32_t>(static_cast<std::uint32_t>(side) + inward));
     };
@@ -134,7 +134,7 @@ ArchiveContent Brush::ContentFromData() const {
     return hasMargins ? ArchiveContent::Margins : ArchiveContent::Simple;
 }
 
-// Likeness carries over from pair to pair, so that the first state stands for all.
+// Likeness is transitive, so that it is enough to compare with the first state.
 bool Brush::StatesDiffer() const {
     return !std::all_of(states.begin(), states.end(), [&](const StateInfo& state) { return state.IsLike(states[0]); });
 }

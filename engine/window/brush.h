@@ -19,7 +19,7 @@ template <>
 inline constexpr EnumTable kEnumTable<ArchiveContent> = MakeTable("ArchiveContent", kArchiveContentTexts);
 
 // A named picture for the interface: pixels on a texture for each state of a control, with margins in pixels. Writing
-// derives the content from the data, so that a brush that said more than it needs comes out in its shortest form.
+// derives the content from the data, so that a brush is always written in its shortest form.
 class Brush : public Record {
 public:
     static constexpr int kStateCount = 5;
@@ -44,7 +44,7 @@ public:
         Corner corners[4];
     };
 
-    // The texture is given back by BrushSet::ReleaseTextures, not by the destructor.
+    // BrushSet::ReleaseTextures releases the texture, not the destructor.
     class StateInfo : public Record {
     public:
         static constexpr int kQuadCount = 10;
@@ -69,7 +69,7 @@ public:
         bool HasTextureOf(const StateInfo& other) const;
 
         FileTexture* texture = nullptr;
-        struct Rectangle pixelBox = {-1, -1, -1, -1};
+        Rectangle pixelBox = {-1, -1, -1, -1};
     };
 
     void Fields(FieldIo& io) override;

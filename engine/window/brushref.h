@@ -6,11 +6,12 @@ namespace Vorn {
 
 class Brush;
 
-// A brush by name; the game resolves it to the brush itself.
+// A brush by name. Files hold the name alone.
 class BrushRef : public NamedReference<100, NameKind::Brush> {
 public:
     BrushRef() : BrushRef(false) {}
 
+    // Whether the image is loaded when the brush is first shown.
     bool IsLoadOnDemand() const { return isLoadOnDemand; }
 
 protected:
@@ -18,11 +19,12 @@ protected:
 
 private:
     bool isLoadOnDemand;
+    // The brush of that name and its place in its set, once they are looked up.
     [[maybe_unused]] std::int32_t resolvedIndex = -1;
     [[maybe_unused]] Brush* resolvedBrush = nullptr;
 };
 
-// A brush whose image the game loads when it is first shown.
+// A brush whose image is loaded when it is first shown.
 class LoadOnDemandBrushRef : public BrushRef {
 public:
     LoadOnDemandBrushRef() : BrushRef(true) {}

@@ -9,7 +9,7 @@ class FileArchiveSystem;
 // The content of a brush file.
 class BrushSet {
 public:
-    // Takes the path of the file to load; Load opens that name, cut to 255 units.
+    // Load opens this path, cut to 255 units.
     explicit BrushSet(std::u16string_view path) { name.Assign(path); }
     BrushSet(const BrushSet&) = delete;
     BrushSet& operator=(const BrushSet&) = delete;
@@ -20,7 +20,7 @@ public:
 
     void Fields(FieldIo& io);
 
-    // Gives back the textures of all brushes and empties the list.
+    // Releases the textures of all brushes and empties the list.
     void ReleaseTextures();
 
     const DynamicVector<Brush>& GetBrushes() const { return brushes; }

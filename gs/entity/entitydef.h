@@ -7,7 +7,7 @@
 namespace Vorn {
 
 // A definition of a kind of thing in the game. Name and type are not among its fields: the name is that of the file,
-// and the type stands in front of what the definition writes. Definitions are large and live on the heap alone.
+// and the type comes before the fields of the definition. Definitions are large and must be created on the heap.
 class EntityDef : public Record {
 public:
     EntityDef() = default;

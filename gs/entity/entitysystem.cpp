@@ -9,7 +9,7 @@ namespace Vorn {
 
 namespace {
 
-// Units of a stem before it is reported as too long; the report shows no more.
+// The most units of a stem that the report shows.
 constexpr std::size_t kStemLimit = 255;
 
 } // namespace

@@ -9,7 +9,7 @@ namespace Vorn {
 
 class FileArchiveSystem;
 
-// Loads and makes entity definitions.
+// Loads and creates entity definitions.
 class EntitySystem {
 public:
     explicit EntitySystem(FileArchiveSystem& _archives);
@@ -27,7 +27,7 @@ public:
     // A fresh definition; null, after the check "false", for a type without a class.
     static std::unique_ptr<EntityDef> CreateEntityDef(EntityType type, std::u16string_view name);
 
-    // The field that stands in front of a definition's own.
+    // The type field, which comes before the fields of a definition.
     static void TypeField(FieldIo& io, EntityType& type);
 
     // Writes a definition as a file holds it, the type's text first.
@@ -40,7 +40,7 @@ private:
     static std::unique_ptr<EntityDef> CreateNamed(EntityType type, std::u16string_view path);
 
     FileArchiveSystem& archives;
-    // Definitions keep names of races and factions as indexes into its lists.
+    // Definitions keep names of races and factions as indexes in its lists.
     PlayerSystem playerSystem;
     FieldContext context;
     std::uint32_t entityDefArchiveSum = 0;

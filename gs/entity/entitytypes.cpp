@@ -46,8 +46,8 @@ std::unique_ptr<EntityDef> Make() {
     return std::make_unique<Definition>();
 }
 
-// The order is kept for good: other tables number the types by it.
-constexpr EntityTypeRow kEntityTypeRows[kEntityTypeCount] = {
+// The order must not change: other tables refer to the types by their numbers.
+constexpr EntityTypeRow kEntityTypeRows[] = {
     {EntityType::Ability, u"Ability", Make<AbilityDef>},
     {EntityType::Buff, u"Buff", Make<BuffDef>},
     {EntityType::EmpireWindowNode, u"EmpireWindowNode", Make<EmpireWindowNodeDef>},
@@ -105,7 +105,7 @@ const EnumTable kEntityTypeTable = MakeTable("EntityType", kEntityTypeTexts);
 
 const EntityTypeRow* FindEntityType(EntityType type) {
     const auto number = static_cast<std::int32_t>(type);
-    return number >= 0 && number < kEntityTypeCount ? &kEntityTypeRows[number] : nullptr;
+    return number >= 0 && number < kEntityTypeTable.rowCount ? &kEntityTypeRows[number] : nullptr;
 }
 
 } // namespace Vorn

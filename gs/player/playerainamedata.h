@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// The names that computer players of a race can take.
+// The names that computer players of a race can have.
 struct PlayerAINameData : Record {
     DynamicVector<FixedString<256>> names;
 

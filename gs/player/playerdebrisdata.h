@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// The meshes that a player's ships fall to.
+// The meshes of debris that a player's ships break into.
 struct PlayerDebrisData : Record {
     using MeshNameList = FixedVector<FixedString<256>, 10>;
 

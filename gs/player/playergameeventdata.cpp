@@ -9,7 +9,7 @@ namespace Vorn {
 
 namespace {
 
-// An event's key and the version of the first files that have it.
+// The key of an event and the version that introduced it.
 struct GameEvent {
     Label label;
     std::int32_t since = std::numeric_limits<std::int32_t>::min();

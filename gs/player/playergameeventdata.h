@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// What a player hears of, one sound for each event of the game. Files older than some events lack their sounds, which
-// stay empty.
+// One sound for each event of the game that a player is informed of. In files older than an event its sound is missing
+// and stays empty.
 struct PlayerGameEventData : Record {
     static constexpr int kGameEventCount = 227;
 

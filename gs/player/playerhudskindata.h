@@ -6,7 +6,7 @@
 
 namespace Vorn {
 
-// The look of a player's interface: the icons that a fleet can take, and one brush for each part of the screen.
+// The look of a player's interface: the icons that a fleet can have, and one brush for each part of the screen.
 struct PlayerHUDSkinData : Record {
     BrushRef loadScreenCharacterBrush;
     FixedVector<BrushRef, 10> fleetIcons;

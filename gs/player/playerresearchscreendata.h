@@ -11,7 +11,7 @@ namespace Vorn {
 struct PlayerResearchScreenData : Record {
     // A part of a page that groups subjects.
     struct BlockInfo : Record {
-        struct Rectangle area;
+        Rectangle area;
         BrushRef backdrop;
         BrushRef tierIndicatorBackdrop;
         FixedString<256> title;
@@ -26,7 +26,7 @@ struct PlayerResearchScreenData : Record {
         void Fields(FieldIo& io) override;
     };
 
-    // The fields behind these have no page.
+    // The fields of research after this one have no page.
     static constexpr int kShownFieldCount = static_cast<int>(ResearchField::Fleet) + 1;
     static constexpr int kSlotLevelCount = 9;
 

@@ -4,15 +4,15 @@
 
 namespace Vorn {
 
-// What is known of players while definitions are converted: the names of races and factions that they mention.
+// The names of races and factions in the definitions that are converted.
 class PlayerSystem {
 public:
     PlayerSystem() = default;
     PlayerSystem(const PlayerSystem&) = delete;
     PlayerSystem& operator=(const PlayerSystem&) = delete;
 
-    // Fields as NameList::Transfer has them in the lists of the archive's context, with the check that an index that is
-    // written is in its list.
+    // Transfers a name as NameList::Transfer does, in the list of the archive's context. A check requires that an index
+    // that is written is in its list.
     static void TransferRace(FieldIo& io, Label label, std::int32_t& index);
     static void TransferFaction(FieldIo& io, Label label, std::int32_t& index);
 

@@ -5,8 +5,8 @@
 
 namespace Vorn {
 
-// The relation between two factions. Both are indexes in the list of factions; a check wants each in it when it is
-// written.
+// The relation between two factions. Both are indexes in the list of factions; a check requires each to be in it when
+// it is written.
 struct FactionRelationsModifier : Record {
     std::int32_t faction = NameList::kNone;
     std::int32_t otherFaction = NameList::kNone;
@@ -16,7 +16,7 @@ struct FactionRelationsModifier : Record {
     void Fields(FieldIo& io) override;
 };
 
-// The relation to a race, an index in the list of races, and what its factions change.
+// The relation to a race, which is an index in the list of races, and how its factions change it.
 struct RaceRelationsModifier : Record {
     std::int32_t race = NameList::kNone;
     float modifierMin = 0.0f;

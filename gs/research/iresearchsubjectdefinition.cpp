@@ -7,7 +7,7 @@ namespace Vorn {
 namespace {
 constexpr std::int32_t kTierCount = 8;
 
-// The numbers of a file are tested as signed ones, so that a huge one counts as negative.
+// Tested as a signed number: a huge one counts as negative.
 std::int32_t Signed(std::uint32_t value) {
     return static_cast<std::int32_t>(value);
 }
@@ -71,7 +71,7 @@ void IResearchSubjectDefinition::CheckValues() const {
                 "boolModifierTables.Size() <= ResearchBoolModifierType::EnumSize");
 }
 
-// Subjects that are found or granted whole have one level and need nothing else.
+// Subjects that are found or granted as a whole have one level and no prerequisites.
 void IResearchSubjectDefinition::CheckWithoutLevels() const {
     CheckAssert(maxNumResearchLevels == 1, "m_MaxNumResearchLevels == 1");
     CheckAssert(prerequisites.prerequisites.Size() == 0, "m_Prerequisites.Size() == 0");

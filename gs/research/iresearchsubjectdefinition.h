@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// What a subject of research costs, needs and changes, and where it stands in the research window. A place, a tier or a
+// What a subject of research costs, needs and changes, and its place in the research window. A place, a tier or a
 // number of levels that do not suit its field are reported and kept.
 struct IResearchSubjectDefinition : Record {
     // A block of the window and the column and row in it.
@@ -39,7 +39,7 @@ struct IResearchSubjectDefinition : Record {
     BrushRef uniqueOverlayBrush;
     std::int32_t dlcId = 0;
 
-    // Whether the subject wins the game; found among the Bool modifiers and no field of its own.
+    // Whether the subject wins the game: set by reading from the Bool modifiers, not stored.
     bool isVictory = false;
 
     void Fields(FieldIo& io) override;

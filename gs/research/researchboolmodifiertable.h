@@ -6,8 +6,7 @@
 
 namespace Vorn {
 
-// Something that research allows or brings about. Some types have a field that says what. The faction stays a plain
-// name here.
+// Something that research allows or causes. Some types have a field for details. The faction is kept as text here.
 struct ResearchBoolModifierTable : Record {
     ResearchBoolModifierType modifierType = ResearchBoolModifierType::Invalid;
     ResearchPlanetType linkedPlanetType = ResearchPlanetType::Invalid;

@@ -36,7 +36,7 @@ function(configure build)
     -DCONTENT=${content} ${ARGN})
 endfunction()
 
-# That `bomber` does to a fighter what its comment says.
+# Checks that `bomber` changes a fighter as its comment describes.
 function(expect_bomber bomber)
   run(${bomber} ${content}/ships/fighter_swallowtail.entity ${SCRATCH}/fighter)
   file(READ ${content}/ships/fighter_swallowtail.entity fighter)
@@ -67,7 +67,7 @@ expect_same(${build}/text/command-bar.brushes ${content}/command-bar.brushes)
 run(${prefix}/bin/kelvane entity ${build}/content/ships/fighter_swallowtail.entity ${SCRATCH}/fighter txt)
 expect_same(${SCRATCH}/fighter ${content}/ships/fighter_swallowtail.entity)
 expect_bomber(${build}/bomber)
-# Without a class nothing is written, and what stands there may not pass for it, however often one builds.
+# Without a class nothing is written, and an old output must not count as the new one, however often one builds.
 file(READ ${content}/star_amber.entity star)
 string(REPLACE "\"Star\"" "\"Nonsense\"" nonsense "${star}")
 file(WRITE ${content}/star_amber.entity "${nonsense}")

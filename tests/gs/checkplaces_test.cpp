@@ -7,7 +7,7 @@ namespace Vorn {
 
 namespace {
 
-// The checks by the source files that they name, which people search for.
+// The source files that checks name, which people search for.
 class CheckPlacesTest : public ArchiveTest {
 protected:
     void Handle(const char* file, int, std::u16string_view text, bool) override {

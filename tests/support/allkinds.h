@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A record with a member of every kind, empty at first, so that a test sees what a read stored.
+// A record with a member of every kind, empty by default, so that a test sees what was read.
 struct AllKinds : Record {
     struct Inner : Record {
         void Fields(FieldIo& io) override { io.Uint(u"count", count); }
@@ -19,7 +19,7 @@ struct AllKinds : Record {
         FixedString<20> text;
     };
 
-    // Each member with a value of its own.
+    // Each member has another value.
     static AllKinds Filled() {
         AllKinds all;
         all.color = {1.0f, 0.5f, 0.0f, 0.25f};

@@ -94,7 +94,7 @@ std::u16string Utf16(std::string_view text) {
 }
 
 std::string BinaryValue(std::string_view line) {
-    const std::string_view key = KeyOf(line);
+    const std::string_view key = KeyOfLine(line);
     const std::string value(ValueOf(line));
     if (key == "[") {
         return BracketBytes(value);

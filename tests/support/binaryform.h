@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// The bytes that a value has in a binary file, found by its spelling alone: a quoted text, TRUE or FALSE, a number with
-// or without a point, several in brackets. Only a colour is known by its key.
+// The bytes of a value in a binary file, derived from its text alone: a quoted text, TRUE or FALSE, a number with or
+// without a point, or several in brackets. Only colours are recognised by their keys.
 std::string BinaryValue(std::string_view line);
 
 // The bytes of each line in a binary file.

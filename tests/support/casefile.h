@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// Whom an edit of a case changes: the source and what comes out, or one of them.
+// What an edit of a case changes: the source, the result, or both.
 enum class Side { Both, In, Out };
 
 struct SidedEdit {
@@ -17,18 +17,17 @@ struct SidedEdit {
 };
 
 // A report that a case expects.
-//   report TEXT, reports N TEXT   one or N lines, or with no text the lines given
+//   report TEXT, reports N TEXT   one or N lines, or without a text the lines given
 //   check TEXT, checks N TEXT     one or N failed checks of that text
-//   missing KEY ... at PATH       keys that are not found while that line of the source waits; PATH+N where the last
-//   line
-//                                 of the source has answered for itself N times since the report before
+//   missing KEY ... at PATH       keys that are not found while that line of the source is the current one
+//   missing KEY ... at PATH+N     the same after N more reads of the last line since the report before
 struct ExpectedReport {
     std::string verb;
     std::string rest;
     Lines added;
 };
 
-// One case of a case file: a content, its edits, and what comes of them.
+// One case of a case file: a content, its edits, and the expected result.
 struct Case {
     std::string name;
     std::string from;
@@ -40,20 +39,20 @@ struct Case {
     bool writesNothing = false;
     // "missing any": keys that are missing are not compared.
     bool anyMissing = false;
-    // "once": what comes out changes again at the next conversion.
+    // "once": the result changes again at the next conversion.
     bool changesAgain = false;
 
     // "each PATH" and words below it: the case is one of each of these texts, read from both forms.
     std::string eachPath;
     Lines eachWords;
 
-    // Where the case stands in its file, and those of its lines that somebody wrote by hand.
+    // The place of the case in its file, and those of its lines that were written by hand.
     std::size_t begin = 0;
     std::size_t end = 0;
     Lines given;
 };
 
-// The lines of a text file behind its header and version.
+// The lines of a text file after its header and version.
 Lines FieldsOfText(std::string text);
 
 // The conversion type of a case file or a folder of samples, up to an underscore in its name: an engine type by its own
@@ -64,13 +63,13 @@ std::string ConversionTypeOf(const std::string& name);
 //   # TEXT                  a remark
 //   content NAME            the lines given are a content
 //   sample NAME FILE        a file below samples is a content
-//   from NAME               the content that the cases behind start from
+//   from NAME               the content that the following cases start from
 //   case NAME               a case, up to the next empty line; a `from` of its own goes first
-// A line is given as "|" and the line, below what it belongs to.
+// A line is given as "|" and the line, below the line that it belongs to.
 struct CaseFile {
     CaseFile(const std::filesystem::path& _path, const std::filesystem::path& _samples);
 
-    // Replaces the case's lines by those given by hand and `generated`.
+    // Replaces the lines of the case by those written by hand and `generated`.
     void Update(const Case& updated, const Lines& generated);
 
     std::filesystem::path path;

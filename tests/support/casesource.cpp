@@ -87,6 +87,11 @@ std::string CurrentHeader(bool isBinary) {
     return Header(isBinary, std::to_string(kArchiveVersion));
 }
 
+std::string InCurrentVersion(std::string_view text) {
+    const std::size_t endOfHeader = text.find('\n', text.find('\n') + 1) + 1;
+    return CurrentHeader(false).append(text.substr(endOfHeader));
+}
+
 Lines SplitFields(std::string_view text) {
     Lines lines;
     while (!text.empty()) {

@@ -13,6 +13,9 @@ std::string Header(bool isBinary, const std::string& version);
 // The header of the files that are written now.
 std::string CurrentHeader(bool isBinary);
 
+// A text file in the version that is written now. Contents keep the version that they were made in.
+std::string InCurrentVersion(std::string_view text);
+
 // The bytes of each line in a file.
 std::vector<std::string> FieldsOf(bool isBinary, const Lines& lines);
 std::string Joined(const std::vector<std::string>& fields);
@@ -36,27 +39,26 @@ struct SourceLines {
     std::string MissingReport(std::string_view key, std::size_t lineNumber, std::size_t waiting) const;
 };
 
-// An edit of both that is another in the source and in what comes out:
-//   bare KEY...        the source keeps the lines with these keys alone, and all others come out blank
-//   overfill N PATH... texts of N + 1 letters in turn come out with N
+// Edits that are different in the source and in the result:
+//   bare KEY...        the source has only the lines with these keys, and all others are blank in the result
+//   overfill N PATH... texts of N + 1 letters, which are cut to N
 bool IsOfTwoParts(const Edit& edit);
 Edit SourcePart(const Edit& edit);
 Edit ResultPart(const Edit& edit);
 
-// Whether a case has a source in that form. One that somebody damaged exists in one form alone; that of an older
-// version has both.
+// Whether a case has a source in that form. A damaged source exists in one form alone, one of an older version in both.
 bool HasSource(const Case& tested, bool isBinary);
 bool HasEdit(const Case& tested, std::string_view verb);
 
 // The content that a case starts from.
 const Lines& BaseOf(const CaseFile& file, const Case& tested);
 
-// The source of a case: its lines, and the bytes of the file. The edits that only a source has are
+// The source of a case: its lines, and the bytes of the file. These edits change the source alone:
 //   binary                the binary form, else the text form alone
 //   version N|none        the version in the header
-//   header BYTES          all in front of the first field
+//   header BYTES          all before the first field
 //   bytes PATH BYTES      the bytes of one line, with its end
-//   cut PATH[+N]          the file ends in front of a line, or N bytes behind
+//   cut PATH[+N]          the file ends before a line, or N bytes after that
 //   append BYTES          more at the end
 //   encoding NAME         utf16-little, utf16-big, or plain: without a mark, with line feeds alone
 //   whole BYTES           the whole file

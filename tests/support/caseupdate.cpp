@@ -29,7 +29,7 @@ class Changes {
 public:
     explicit Changes(Lines _lines) : lines(std::move(_lines)) {}
 
-    // Returns the index behind the change. Lines of the same key at either end are the same line with another value.
+    // Returns the index after the change. Lines with the same key at either end are the same line with another value.
     std::size_t Replace(std::size_t at, std::size_t dropped, const Lines& added) {
         const std::size_t common = std::min(dropped, added.size());
         std::size_t front = 0;
@@ -56,7 +56,7 @@ public:
 
 private:
     static bool IsSameKey(const std::string& line, const std::string& other) {
-        return KeyOf(line) == KeyOf(other) && DepthOf(line) == DepthOf(other);
+        return KeyOfLine(line) == KeyOfLine(other) && DepthOf(line) == DepthOf(other);
     }
 
     void Tell(const std::string& change) { result.push_back("out " + change); }
@@ -135,12 +135,12 @@ std::string WithEscapes(std::string_view text) {
     return escaped;
 }
 
-// Collects the lines of a case for one report after the other.
+// Collects the lines of a case for the reports.
 class ReportLines {
 public:
     explicit ReportLines(const SourceLines& _source) : source(_source) {}
 
-    // Takes the report of a missing key off the start of `reports` if there is one.
+    // Removes the report of a missing key from the start of `reports` if there is one.
     bool TakeMissing(std::string_view& reports) {
         const std::string key = ValueBehind(reports, "Label: ");
         const std::string number = ValueBehind(reports, "Line Number:");
@@ -204,7 +204,7 @@ private:
     Lines result;
 };
 
-// How many of the first lines are one report with empty or indented lines in it.
+// The number of lines that the first report has, which may contain empty or indented lines.
 std::size_t ParagraphLines(const Lines& lines) {
     std::size_t end = 1;
     std::size_t last = 1;

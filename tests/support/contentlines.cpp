@@ -19,11 +19,11 @@ Lines Block(const Lines& lines, std::size_t begin, std::size_t end) {
 }
 
 void SetText(std::string& line, std::string_view text) {
-    line.replace(static_cast<std::size_t>(KeyOf(line).data() - line.data()), std::string::npos, text);
+    line.replace(static_cast<std::size_t>(KeyOfLine(line).data() - line.data()), std::string::npos, text);
 }
 
 void SetValue(std::string& line, std::string_view value) {
-    SetText(line, std::string(KeyOf(line)) + (value.empty() ? "" : " ") + std::string(value));
+    SetText(line, std::string(KeyOfLine(line)) + (value.empty() ? "" : " ") + std::string(value));
 }
 
 std::string Letters(std::size_t count) {
@@ -37,7 +37,7 @@ struct Range {
     std::size_t end;
 };
 
-// Takes "PATH" or "PATH to PATH" off a text: the lines from the first to the end of the last block.
+// Removes "PATH" or "PATH to PATH" from a text: the lines from the first one to the end of the last block.
 Range TakeRange(const Lines& lines, std::string_view& rest) {
     const std::size_t begin = FindLine(lines, TakeWord(rest));
     if (!rest.starts_with("to ")) {
@@ -88,7 +88,7 @@ public:
     }
 
     bool operator()(const std::string& line) const {
-        return std::find(keys.begin(), keys.end(), KeyOf(line)) != keys.end();
+        return std::find(keys.begin(), keys.end(), KeyOfLine(line)) != keys.end();
     }
 
 private:
@@ -105,7 +105,7 @@ void Keep(Lines& lines, std::string_view rest, const Lines& given) {
     lines.erase(std::remove_if(lines.begin(), lines.end(), std::not_fn(HasKey(rest, given))), lines.end());
 }
 
-// Zeros with the signs of a number or of several in brackets.
+// Zeros in the same notation as a number, or as several in brackets.
 std::string Zeros(std::string_view numbers) {
     if (numbers.starts_with('[')) {
         std::string zeros;
@@ -171,13 +171,13 @@ std::size_t DepthOf(std::string_view line) {
     return std::min(line.find_first_not_of('\t'), line.size());
 }
 
-std::string_view KeyOf(std::string_view line) {
+std::string_view KeyOfLine(std::string_view line) {
     line.remove_prefix(std::min(line.find_first_not_of("\t "), line.size()));
     return line.substr(0, line.find(' '));
 }
 
 std::string_view ValueOf(std::string_view line) {
-    const std::string_view key = KeyOf(line);
+    const std::string_view key = KeyOfLine(line);
     line.remove_prefix(static_cast<std::size_t>(key.data() - line.data()) + key.size());
     return line.substr(std::min<std::size_t>(1, line.size()));
 }
@@ -197,7 +197,7 @@ std::size_t FindLine(const Lines& lines, std::string_view path) {
         const std::string_view step = rest.substr(0, rest.find('/'));
         const std::size_t mark = std::min(step.find('#'), step.size());
         int number = mark < step.size() ? std::stoi(std::string(step.substr(mark + 1))) : 1;
-        while (index < lines.size() && (KeyOf(lines[index]) != step.substr(0, mark) || --number > 0)) {
+        while (index < lines.size() && (KeyOfLine(lines[index]) != step.substr(0, mark) || --number > 0)) {
             ++index;
         }
         if (index == lines.size()) {
@@ -215,9 +215,9 @@ std::string PathOf(const Lines& lines, std::size_t index) {
     if (index == lines.size()) {
         return "end";
     }
-    const auto hasKey = [&](const std::string& line) { return KeyOf(line) == KeyOf(lines[index]); };
+    const auto hasKey = [&](const std::string& line) { return KeyOfLine(line) == KeyOfLine(lines[index]); };
     const auto number = 1 + std::count_if(lines.begin(), lines.begin() + static_cast<Offset>(index), hasKey);
-    const std::string key(KeyOf(lines[index]));
+    const std::string key(KeyOfLine(lines[index]));
     if (number == 1) {
         return key;
     }

@@ -22,10 +22,10 @@ std::string Utf8(std::u16string_view text);
 // The name under which a path is opened.
 std::u16string NameOf(const std::filesystem::path& path);
 
-// A check as TakeReports gives it.
+// A failed check as TakeReports returns it.
 std::string Check(std::string_view expression);
 
-// A core of its own and a collector of all reports, in order. A report that no test asked for fails the test.
+// Has a core of its own and collects all reports, in order. A report that the test does not expect fails it.
 class EngineTest : public testing::Test, public ReportHandler {
 protected:
     EngineTest();

@@ -6,7 +6,7 @@
 
 namespace Vorn {
 
-// A fresh folder below the system's folder for temporary files, gone again with all its content at the end.
+// A new folder in the system's folder for temporary files. The destructor removes it with all its content.
 class TempFolder {
 public:
     TempFolder();

@@ -99,7 +99,7 @@ private:
 
 } // namespace
 
-// A core of its own for each conversion costs less than half a microsecond.
+// A new core for each conversion costs less than half a microsecond.
 ConversionResult ContentConverter::Convert(ContentKind kind, std::string_view fileName, std::string_view source,
                                            FileArchiveType form) {
     const std::u16string path = NameFromBytes(fileName);
@@ -111,7 +111,7 @@ ConversionResult ContentConverter::Convert(ContentKind kind, std::string_view fi
         MemoryFiles files(name, source, destination);
         Core core(files);
         SetUpForConversions(core);
-        // Only reports would come of looking for meshes and sounds.
+        // Searching for meshes and sounds would only cause reports.
         core.context.meshes = nullptr;
         core.context.reportsSounds = false;
         ConvertContent(core, kind, {name, u"destination", form});

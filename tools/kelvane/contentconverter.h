@@ -18,18 +18,18 @@ enum class ConversionResult {
     Ended
 };
 
-// Converts contents one after the other from memory into memory, into the bytes that the converter writes, whatever was
-// converted before. Each thread needs its own.
+// Converts contents from memory to memory. The result is what the converter writes, and independent of earlier
+// conversions. Each thread needs its own.
 class ContentConverter {
 public:
-    // Converts the content of a file; of its name, what follows the folders names an entity definition.
+    // Converts the content of a file. The file name without folders is the name of an entity definition.
     ConversionResult Convert(ContentKind kind, std::string_view fileName, std::string_view source,
                              FileArchiveType form);
 
     // Gets what is reported; null, the default, for nobody. Not owned.
     void SetReportHandler(ReportHandler* _handler) { handler = _handler; }
 
-    // What came of the last conversion.
+    // The result of the last conversion.
     std::string_view Bytes() const { return destination; }
 
 private:

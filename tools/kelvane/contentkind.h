@@ -10,7 +10,7 @@ namespace Vorn {
 // The types of content that the text and the binary form share, in the order of their table.
 enum class ContentKind : std::uint8_t { Mesh, Particle, Brushes, Entity };
 
-// What a type is called on the command line, and how the names of its files end.
+// The name of a type on the command line, and the ending of its files.
 struct ContentKindRow {
     std::string_view name;
     std::string_view ending;
@@ -25,7 +25,7 @@ std::string_view NameOf(ContentKind kind);
 // The type of that name.
 std::optional<ContentKind> ContentKindNamed(std::string_view name);
 
-// The type that a file's name ends in, capitals or not; a name that is an ending alone has none.
+// The type for the ending of a file name, in upper or lower case. Nothing for a name that is an ending alone.
 std::optional<ContentKind> ContentKindOfFile(std::string_view fileName);
 
 } // namespace Vorn

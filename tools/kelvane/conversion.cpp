@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kTextureDirectory = 5;
 
-// Runs `write` on the destination's archive and returns true if it opens.
+// Calls `write` with the archive of the destination and returns true if it can be opened.
 template <class Write>
 bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     FileArchiveSystem& archives = core.fileArchiveSystem;
@@ -26,15 +26,15 @@ bool WriteDestination(Core& core, const Conversion& conversion, Write write) {
     return static_cast<bool>(archive);
 }
 
-// A source that cannot be opened ends the process, ahead of the destination.
+// A source that cannot be opened ends the process, before the destination is opened.
 void EndIfUnopened(const Core& core) {
     if (core.fileArchiveSystem.GetOpenFailure() == OpenFailure::CannotOpen) {
         EndAbnormally();
     }
 }
 
-// A mesh that was found and cannot be loaded ends the process, ahead of the destination. One that was not found ends it
-// where it would be written, with the destination open.
+// A mesh that was found and cannot be loaded ends the process before the destination is opened. One that was not found
+// ends it when it would be written, after the destination was opened.
 void ConvertMesh(Core& core, const Conversion& conversion) {
     Mesh* mesh = core.meshSystem.GetMesh(conversion.source, {});
     if (core.fileArchiveSystem.GetOpenFailure() != OpenFailure::None) {

@@ -7,14 +7,14 @@ namespace Vorn {
 
 class Core;
 
-// From one file to another. An entity definition takes its name from the source.
+// From one file to another. The name of an entity definition is that of the source.
 struct Conversion {
     std::u16string_view source;
     std::u16string_view destination;
     FileArchiveType form;
 };
 
-// What a core needs before its first conversion.
+// Prepares a core for conversions.
 void SetUpForConversions(Core& core);
 
 // Loads the source, whose form is detected, and writes the destination in the form asked for. What is wrong is reported

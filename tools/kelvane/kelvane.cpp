@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kLeastArguments = 3;
 
-// A save game has one form alone, and a mesh has a second name.
+// Save games have one form alone. The type "mesh" has a second name.
 constexpr std::string_view kSaveGame = "saveGame";
 constexpr std::string_view kOtherMeshName = "MESH";
 

@@ -6,12 +6,12 @@
 
 namespace Vorn {
 
-// Exit statuses. A recognised type succeeds whatever became of the conversion; only reports tell of damage.
+// Exit statuses. A known type means success, even if the source is damaged; only reports show that.
 inline constexpr int kSuccess = 0;
 inline constexpr int kUsageError = -1;
 
-// Runs one conversion: the arguments behind the program's name are type, source, destination and the optional format.
-// What is meant for the user goes to `output`, all reports to the debug output.
+// Runs one conversion. The arguments are type, source, destination and the optional format. Messages for the user go to
+// `output`, all reports to the debug output.
 int RunKelvane(std::span<const std::u16string> arguments, std::FILE* output);
 
 } // namespace Vorn

@@ -34,11 +34,11 @@ int wmain(int argc, wchar_t** argv) {
 
 namespace {
 
-// Without this a file would be opened on the number of a closed standard stream, and reports would go into it.
+// Otherwise a file could get the descriptor of a closed standard stream, and reports would be written into it.
 void OpenClosedStreams() {
     for (int stream = 0; stream <= 2; ++stream) {
         if (fcntl(stream, F_GETFD) == -1 && errno == EBADF) {
-            // The lowest free number is the stream's.
+            // The lowest free descriptor is that of the stream.
             open("/dev/null", O_RDWR);
         }
     }
@@ -48,8 +48,8 @@ void OpenClosedStreams() {
 
 int main(int argc, char** argv) {
     OpenClosedStreams();
-    // A reader of the reports that goes away must not stop a conversion, and a write beyond the limit of file sizes
-    // fails like one to a full disk.
+    // If the reader of the reports closes its pipe, that must not stop a conversion. A write beyond the limit of file
+    // sizes must fail like one to a full disk.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     std::vector<std::u16string> arguments;

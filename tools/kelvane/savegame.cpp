@@ -32,7 +32,7 @@ CopyResult CopyBytes(NativeFile& input, NativeFile& output) {
 } // namespace
 
 void StampSaveGame(std::u16string_view source, std::u16string_view destination) {
-    // Both are open before the first byte moves: a save copied onto itself is truncated and stays empty.
+    // Both are opened before the first byte is copied: a save copied onto itself is truncated and becomes empty.
     NativeFile input;
     const bool hasInput = input.Open(source, FileAccess::Read);
     NativeFile output;

@@ -1,6 +1,6 @@
 #include "tools/version.h"
 
-// The converter has no option that shows its version: `strings kelvane | grep '^kelvane '` finds it in the file.
+// The converter has no option for its version: `strings kelvane | grep '^kelvane '` finds it in the file.
 #ifdef __GNUC__
 __attribute__((used))
 #endif

@@ -22,7 +22,7 @@ public:
     // Goes back to the first bit.
     void Rewind();
 
-    // A count of 0 or less moves nothing, one over 32 acts as 32; bits behind the end read as 0.
+    // A bit count of 0 or less transfers nothing, one above 32 counts as 32; bits past the end read as 0.
     void Read(Label label, std::uint32_t& value, int bitCount) override;
     void Write(Label label, const std::uint32_t& value, int bitCount) override;
 

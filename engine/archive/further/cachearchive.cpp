@@ -32,12 +32,12 @@ constexpr CacheArchive::Tag CacheArchive::TagOf() {
     return static_cast<Tag>(static_cast<std::uint32_t>(Tag::FirstValue) + PlaceIn<Kind>(TaggedKinds()));
 }
 
-// Reads entries from a file and makes their calls.
+// Reads entries from a file and repeats their calls.
 class CacheArchive::Player {
 public:
     explicit Player(File* _file) : file(_file), values(_file, false) {}
 
-    // Plays entries up to the end of the record that they stand in. Deeper nesting than any record has ends the replay.
+    // Plays entries up to the end of their record. Nesting that is deeper than in any record ends the replay.
     void PlayRecord(Archive& target);
 
 private:
@@ -57,7 +57,7 @@ private:
     bool isStopped = false;
 };
 
-// Stands for a record whose entries come next in the file.
+// A record whose entries come next in the file.
 class CacheArchive::ArchivableNode final : public Archivable {
 public:
     explicit ArchivableNode(Player& _player) : player(_player) {}
@@ -81,7 +81,7 @@ void CacheArchive::Player::PlayRecord(Archive& target) {
     --depth;
 }
 
-// A count of code units, then the units and a terminator, as far as the file goes.
+// A count of code units, then the units and a terminator, up to the end of the file.
 std::u16string CacheArchive::Player::TakeText() {
     std::uint32_t count = 0;
     values.Read({}, count);

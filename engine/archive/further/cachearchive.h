@@ -7,7 +7,7 @@
 
 namespace Vorn {
 
-// Keeps a log of all write calls in a file of its own: for each a tag, the label and the value. Replay makes the same
+// Keeps a log of all write calls in a file of its own: for each a tag, the label and the value. Replay repeats the
 // calls on another archive. It reads nothing: reads of Int, Uint, Value and Record fire the check "false", the others
 // do nothing.
 class CacheArchive final : public ArchiveForm<CacheArchive> {
@@ -15,9 +15,9 @@ public:
     explicit CacheArchive(FileSystem& _fileSystem);
     ~CacheArchive() override;
 
-    // What is written until CloseWriteFile goes to this file alone. It is made writable first; the check
-    // "bResult == TRUE" fires if that fails, also for a file that is not there yet. False, after a report, if the file
-    // cannot be opened; then all writes are dropped.
+    // All that is written until CloseWriteFile goes into this file. It is made writable first; the check "bResult ==
+    // TRUE" fires if that fails, also for a file that is not there yet. False, after a report, if the file cannot be
+    // opened; then all writes are dropped.
     bool OpenWriteFile(std::u16string_view fileName);
     void CloseWriteFile();
 

@@ -7,8 +7,8 @@
 
 namespace Vorn {
 
-// The remote storage facility behind SteamFileArchive: an area of memory and a place in it that moves on as archives
-// read and write. What becomes of the area is the business of the facility.
+// The remote storage that SteamFileArchive uses: an area of memory and a current place in it, which moves as archives
+// read and write. The storage decides what to do with the area.
 class RemoteStorage : public ArchiveMaker {
 public:
     static constexpr std::size_t kAreaSize = 31457280;

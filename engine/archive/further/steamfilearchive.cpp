@@ -45,7 +45,7 @@ SteamFileArchive::SteamFileArchive(RemoteStorage& _storage, bool _hasFloatBits)
     storage.Rewind();
 }
 
-// A text that is there whole is read like any other; of one that is not, only the count is taken.
+// A complete text is read as in other files. Of an incomplete one only the count is read.
 void SteamFileArchive::Read(Label label, char16_t* buffer, int bufferSize) {
     const StorageBytes area{&storage};
     std::uint32_t count = 0;

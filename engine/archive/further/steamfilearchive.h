@@ -5,8 +5,8 @@
 
 namespace Vorn {
 
-// The bytes of a remote storage area. A scalar past its end fires the check "false", moves nothing and leaves its
-// destination; so do the units of a text as a whole.
+// The bytes of a remote storage area. A scalar past its end fires the check "false", does not move the place and leaves
+// its destination unchanged; so does a text as a whole.
 struct StorageBytes {
     RemoteStorage* storage;
 

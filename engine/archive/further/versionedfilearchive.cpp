@@ -51,7 +51,7 @@ void VersionedFileArchive::Open() {
     archives.Close(archive);
 }
 
-// A file that the platform does not open is no fault here and is not reported.
+// A file that cannot be opened is normal here and not reported.
 FileArchive* VersionedFileArchive::OpenIfReadable() {
     NativeFile probe;
     const bool isReadable = probe.Open(fileName.View(), FileAccess::Read) && !probe.IsDirectory();

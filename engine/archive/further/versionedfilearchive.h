@@ -4,8 +4,8 @@
 
 namespace Vorn {
 
-// A file like one of settings that is made anew when its layout has changed: no archive itself, but the owner of one
-// file's content. Open brings the file up to date and reads it.
+// A file, of settings for example, that is written again when its layout has changed. It is no archive itself but owns
+// the content of one file. Open brings the file up to date and reads it.
 class VersionedFileArchive {
 public:
     // The name holds at most 255 units; the type is Text or Binary.
@@ -20,8 +20,8 @@ public:
     virtual void Read(Archive& archive, std::uint32_t version) = 0;
     virtual void Write(Archive& archive) const = 0;
 
-    // Reads the file. One that is missing, that is no archive or that has another version is written anew first, with
-    // what could be taken over from the old one; a log line tells of it. Where even a new file does not open, nothing
+    // Reads the file. One that is missing, that is no archive or that has another version is first written again,
+    // keeping what can be read of the old one, and a log line is written. If even a new file cannot be opened, nothing
     // is read.
     void Open();
 

@@ -15,22 +15,26 @@ namespace {
 
 using Vertices = std::span<const Mesh::Vertex>;
 
-// A normal at an angle of at most three eighths of pi, in 32 bits, has at least this cosine.
+// The cosine, rounded to 32 bits, of three eighths of pi.
 constexpr float kLeastCosine = std::bit_cast<float>(0x3EC3EF14U);
 
 float RootOf(float square) {
     return static_cast<float>(std::sqrt(static_cast<double>(square)));
 }
 
-// A vertex on its way through the sort: its key on top, then its index, and below one bit for each direction that it
-// faces. Whole entries compare like their keys, equal keys by index.
+// A vertex while it is sorted: from the highest bits down its key, its index, and one bit for each direction that it
+// faces. So entries are ordered by key, and by index if their keys are equal.
 using Entry = std::uint64_t;
 
 constexpr int kKeyShift = 32;
+// The sign of a key is never set.
+constexpr int kKeyBits = 31;
+// The most bits that one pass sorts by.
+constexpr int kRadixBits = 11;
 constexpr int kIndexShift = Mesh::Data::kDirectionCount;
 constexpr std::size_t kMostVertices = std::size_t{1} << (kKeyShift - kIndexShift);
 
-// The directions that share a key.
+// The directions whose lists are sorted by the same key.
 struct KeyGroup {
     int firstDirection;
     int endDirection;
@@ -43,7 +47,7 @@ constexpr KeyGroup kFrontBack = {4, 6, &Vector3::x};
 template <KeyGroup group>
 std::uint32_t FacedDirections(const Vector3& normal) {
     std::uint32_t faced = 0;
-    // The second of two opposite directions has the cosine of the first with the other sign, exactly.
+    // The cosine of the opposite direction is exactly the negative one.
     for (int i = group.firstDirection; i < group.endDirection; i += 2) {
         const Vector3& axis = kDirections[i].axis;
         const float cosine = normal.x * axis.x + normal.y * axis.y + normal.z * axis.z;
@@ -53,7 +57,8 @@ std::uint32_t FacedDirections(const Vector3& normal) {
     return faced;
 }
 
-// Keys are never negative, so their bits sort like themselves; not a number comes last.
+// Keys are never negative, so that they can be sorted by their bits: 1.0f is 0x3F800000 and 2.0f is 0x40000000. NaN
+// comes last.
 std::uint32_t KeyOf(float coordinate, float radius) {
     constexpr std::uint32_t kLast = 0x7FFFFFFF;
     const float difference = radius - coordinate;
@@ -61,9 +66,9 @@ std::uint32_t KeyOf(float coordinate, float radius) {
     return std::isnan(key) ? kLast : std::bit_cast<std::uint32_t>(key);
 }
 
-// Moves entries into the order of the `bits` bits of theirs from `shift` on; equal ones stay in order.
+// Sorts entries by the `bits` bits from `shift` on; equal ones keep their order.
 void RadixPass(std::span<const Entry> from, Entry* to, int shift, int bits) {
-    std::array<std::uint32_t, 2048> places{};
+    std::array<std::uint32_t, std::size_t{1} << kRadixBits> places{};
     const Entry mask = (Entry{1} << bits) - 1;
     for (const Entry entry : from) {
         ++places[entry >> shift & mask];
@@ -77,21 +82,22 @@ void RadixPass(std::span<const Entry> from, Entry* to, int shift, int bits) {
     }
 }
 
-// Sorts entries that stand in the order of their indices; both runs of memory are overwritten.
+// Sorts entries, which must be in the order of their indices. Both arrays are overwritten.
 std::span<const Entry> SortByKey(std::span<Entry> entries, std::span<Entry> scratch) {
     constexpr std::size_t kWorthRadix = 1024;
+    static_assert(kRadixBits + 10 + 10 == kKeyBits);
     if (entries.size() < kWorthRadix) {
         std::sort(entries.begin(), entries.end());
         return entries;
     }
-    RadixPass(entries, scratch.data(), kKeyShift, 11);
-    RadixPass(scratch, entries.data(), kKeyShift + 11, 10);
-    RadixPass(entries, scratch.data(), kKeyShift + 21, 10);
+    RadixPass(entries, scratch.data(), kKeyShift, kRadixBits);
+    RadixPass(scratch, entries.data(), kKeyShift + kRadixBits, 10);
+    RadixPass(entries, scratch.data(), kKeyShift + kRadixBits + 10, 10);
     return scratch;
 }
 
-// Visits the vertices that face a direction of a group in the order of their keys. A large mesh is sorted in slices of
-// the range of keys, a few whatever its size, so that the room for sorting stays small beside it.
+// Visits the vertices that face a direction of a group, in the order of their keys. A large mesh is sorted in slices,
+// each one a range of keys. There are at most a few slices, so that sorting needs little memory compared with the mesh.
 class KeySorter {
 public:
     KeySorter(Vertices _vertices, float _radius) : vertices(_vertices), radius(_radius) {}
@@ -121,8 +127,9 @@ public:
 private:
     // A bin is a range of keys by their upper bits.
     static constexpr int kBinShift = kKeyShift + 18;
-    static constexpr std::uint32_t kBins = 1U << (63 - kBinShift);
+    static constexpr std::uint32_t kBins = 1U << (kKeyShift + kKeyBits - kBinShift);
     static constexpr std::uint16_t kNoBin = kBins;
+    static_assert(kNoBin == kBins);
     static constexpr std::size_t kMostUnsliced = std::size_t{1} << 18;
     static constexpr std::size_t kLeastRoom = std::size_t{1} << 17;
     static constexpr std::size_t kMostSlices = 16;
@@ -138,7 +145,7 @@ private:
                           : Entry{KeyOf(vertex.position.*group.axis, radius)} << kKeyShift | i << kIndexShift | faced;
     }
 
-    // Notes the bin of each vertex and counts them.
+    // Determines the bin of each vertex, and the number of vertices in each bin.
     template <KeyGroup group>
     std::vector<std::size_t> AssignBins() {
         std::vector<std::size_t> counts(kBins);
@@ -163,7 +170,7 @@ private:
         }
     }
 
-    // The vertices in the bins from `first` to `end` must fit the room.
+    // There must be room for the vertices in the bins from `first` to `end`.
     template <KeyGroup group, class Visit>
     void VisitSlice(std::uint32_t first, std::uint32_t end, Visit visit) {
         std::size_t count = 0;
@@ -188,7 +195,7 @@ private:
     std::unique_ptr<Entry[]> scratch;
 };
 
-// A list that leaves out what is too close to its last vertex, which is vertex 0 at first, listed or not.
+// A list that skips vertices too close to the last one in it. At first that is vertex 0, even if it is not in the list.
 class ThinnedList {
 public:
     ThinnedList(Vertices _vertices, float radius, Mesh::Data::VertexIndexVector& _list)
@@ -221,7 +228,7 @@ private:
 void CacheVertexIndices(const DynamicArray<Mesh::Vertex>& vertices, float boundingRadius,
                         FixedArray<Mesh::Data::VertexIndexVector, Mesh::Data::kDirectionCount>& lists) {
     const Vertices all(vertices.begin(), vertices.end());
-    // More would be gigabytes of vertices, and count as memory that there is not.
+    // More would be gigabytes of vertices, and count as a failed allocation.
     if (all.size() > kMostVertices) {
         EndAbnormally();
     }

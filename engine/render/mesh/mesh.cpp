@@ -11,7 +11,7 @@ float SquaredLength(const Vector3& v) {
     return v.x * v.x + v.y * v.y + v.z * v.z;
 }
 
-// Written so that not a number is outside.
+// NaN is outside.
 bool IsWithin(float value, float tolerance) {
     return std::fabs(value - 1.0f) <= tolerance;
 }

@@ -9,18 +9,17 @@ namespace Vorn {
 class FileArchiveSystem;
 class FileTexture;
 
-// A loaded model. Owned by MeshSystem and shared by reference count, except for mock meshes, which belong to whoever
-// got them.
+// A loaded model. Owned by MeshSystem and shared by reference count, except for mock meshes, which their users own.
 class Mesh {
 public:
-    // Passed through for the game; the converter has no use for them.
+    // Parameters of the caller of GetMesh, stored with the mesh and not used here.
     struct LoadParams {
         std::uint16_t kind = 0;
         std::int32_t values[3] = {-1, -1, -1};
     };
 
-    // The elements of arrays are plain, so that those that a file does not hold stay untouched memory. A colour of a
-    // vertex in a file is not kept.
+    // The elements of arrays have no virtual functions, so that the memory of those that are missing in a file stays
+    // untouched. The colour of a vertex in a file is dropped.
     struct Vertex {
         Vector3 position;
         Vector3 normal;
@@ -31,7 +30,7 @@ public:
         float v1 = 0.0f;
     };
 
-    // An element for the moment in which it is read or written, here and below.
+    // The record that reads and writes an element, here and below.
     struct ArchivableVertex final : Record, Vertex {
         void Fields(FieldIo& io) override;
     };
@@ -58,7 +57,7 @@ public:
         static Point Default();
     };
 
-    // An orientation that is not left-handed and normalised is reported when read, and kept.
+    // An orientation that is not left-handed and normalised is reported after reading, and kept.
     struct ArchivablePoint final : Record, Point {
         void Fields(FieldIo& io) override;
     };
@@ -82,7 +81,7 @@ public:
         void Fields(FieldIo& io) override;
     };
 
-    // The stored part of a mesh. Writing computes the cached vertex indices anew, whatever was read.
+    // The stored part of a mesh. Writing always computes the cached vertex indices, regardless of what was read.
     class Data final : public Record {
     public:
         static constexpr int kDirectionCount = 6;
@@ -112,7 +111,7 @@ public:
         DynamicArray<Triangle> triangles;
         FixedArray<VertexIndexVector, kDirectionCount> cachedVertexIndices;
 
-        // Not stored.
+        // Not stored: the result of Load, values computed from the extents, and a point that replaces missing ones.
         bool isLoaded = false;
         std::int32_t version = 0;
         FixedString<256> fileName;
@@ -145,7 +144,7 @@ private:
     std::int32_t m_RefCount = 0;
     bool isMock = false;
 
-    // What the renderer adds; the converter runs without one.
+    // What a renderer adds to a mesh. The destructor checks that it was released before.
     DynamicVector<FileTexture*> m_DiffuseTexturePtrs;
     DynamicVector<FileTexture*> m_SelfIlluminationTexturePtrs;
     DynamicVector<FileTexture*> m_NormalTexturePtrs;

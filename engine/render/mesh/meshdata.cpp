@@ -4,57 +4,6 @@
 
 namespace Vorn {
 
-namespace {
-
-// No record of a mesh varies with the file's version, so a missing count must not pass for an empty array.
-constexpr std::int32_t kMissingCount = -1;
-
-// An element that knows whether it was read.
-template <class Archived>
-class ReadElement final : public Record {
-public:
-    void Fields(FieldIo& io) override {
-        wasRead = true;
-        element.Fields(io);
-    }
-
-    Archived element;
-    bool wasRead = false;
-};
-
-// Reads or writes a plain element by the record that lists its fields. One that the file does not hold is not stored:
-// it would be the first use of its memory.
-template <class Archived, class T>
-void PlainRecord(FieldIo& io, Label label, T& element) {
-    ReadElement<Archived> archived;
-    T& fields = archived.element;
-    if (io.Writing()) {
-        fields = element;
-    }
-    io.Record(label, archived);
-    if (io.Reading() && archived.wasRead) {
-        element = fields;
-    }
-}
-
-// An array that is sized once from its stored count. A count below 0 ends the process, and so does too large a one.
-template <class Archived, class T>
-void SizedArray(FieldIo& io, Label countLabel, Label label, DynamicArray<T>& array) {
-    if (io.Reading()) {
-        const std::int32_t count = io.ReadCount({countLabel, ListRule::Sized}, kMissingCount);
-        const ListRoom room = io.MakeRoom<Archived>(count);
-        array.Resize(count);
-        io.ReadEntries(count, [&](std::int32_t i) { PlainRecord<Archived>(io, label, array[i]); });
-    } else {
-        io.WriteCount(countLabel, array.Size());
-        for (T& element : array) {
-            PlainRecord<Archived>(io, label, element);
-        }
-    }
-}
-
-} // namespace
-
 void Mesh::ArchivableVertex::Fields(FieldIo& io) {
     io.Vector3(u"Position", position);
     io.Vector3(u"Normal", normal);
@@ -99,10 +48,10 @@ void Mesh::Data::Fields(FieldIo& io) {
     if (io.Reading()) {
         ComputeBoundingBox();
     }
-    SizedArray<ArchivableMaterial>(io, u"NumMaterials", u"Material", materials);
-    SizedArray<ArchivablePoint>(io, u"NumPoints", u"Point", points);
-    SizedArray<ArchivableVertex>(io, u"NumVertices", u"Vertex", vertices);
-    SizedArray<ArchivableTriangle>(io, u"NumTriangles", u"Triangle", triangles);
+    io.PlainList<ArchivableMaterial>(u"NumMaterials", u"Material", materials);
+    io.PlainList<ArchivablePoint>(u"NumPoints", u"Point", points);
+    io.PlainList<ArchivableVertex>(u"NumVertices", u"Vertex", vertices);
+    io.PlainList<ArchivableTriangle>(u"NumTriangles", u"Triangle", triangles);
     if (io.Writing()) {
         ComputeCachedVertexIndices();
     }

@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// Finds meshes, keeps one for each file and counts its holders. In mock mode every mesh is
-// made up and belongs to whoever gets it.
+// Finds meshes, keeps one for each file and counts its users. In mock mode every mesh is a new, artificial one that its
+// user owns.
 class MeshSystem {
 public:
     static constexpr int kMaxMeshes = 800;
@@ -21,27 +21,29 @@ public:
     // file cannot be loaded.
     Mesh* GetMesh(std::u16string_view name, const Mesh::LoadParams& loadParams);
 
-    // Takes one reference back; a mock mesh is destroyed. Null ends the process abnormally after its check.
+    // Removes one reference; a mock mesh is destroyed. Null ends the process abnormally after its check.
     void ReleaseMesh(Mesh* mesh);
 
-    // Takes a name that exists as it stands; else looks for a data file with the name's stem and the ending ".mesh".
+    // Accepts a name if such a file exists; else searches for a data file with the stem of the name and the extension
+    // ".mesh".
     bool FindMeshFile(DataPath& result, std::u16string_view name) const;
 
-    // Frees every mesh, whoever still holds one.
+    // Frees every mesh, even if it is still in use.
     void FreeAll();
 
-    // The sub path of data folders that meshes are looked for in; with one, no name is taken as it stands.
+    // The sub path of data folders to search for meshes. If it is set, the data folders are always searched.
     void SetMeshDirectory(std::u16string_view path) { meshDirectory.Assign(path); }
 
     // Whether GetMesh reads the file of a mesh that is not loaded yet.
     void SetLoadDataOnGet(bool on) { loadDataOnGet = on; }
 
-    // From here on GetMesh makes up meshes of this radius that have the points added here.
+    // From now on GetMesh creates artificial meshes with this radius and the points added by AddMockPoint.
     void EnterMockMode(float boundingRadius);
     void AddMockPoint(std::u16string_view name) { mockPointNames.Append().Assign(name); }
     bool IsMock() const { return mockMode; }
 
     int MeshCount() const { return m_MeshPtrVector.Size(); }
+    // The time that all loading took so far.
     float GetLoadSeconds() const { return loadSeconds; }
 
 private:

@@ -8,7 +8,7 @@ FileTexture* TextureSystem::Acquire(std::u16string_view fileName) {
     }
     FileTexture* texture = firstFree;
     firstFree = texture->nextFree;
-    // Once as the texture's name and once as that of its file; a text that is too long is reported for each.
+    // Once as the name of the texture and once as that of its file: too long a text is reported for each.
     texture->fileName.Assign(fileName);
     texture->fileName.Assign(fileName);
     ++textureCount;
@@ -23,7 +23,7 @@ void TextureSystem::Release(FileTexture* texture) {
     }
 }
 
-// Textures come in blocks, so that reading a state of a brush allocates nothing.
+// Textures are allocated in blocks, so that reading a state of a brush usually allocates nothing.
 void TextureSystem::AddBlock() {
     constexpr std::size_t kBlockSize = 32;
     blocks.push_back(std::make_unique_for_overwrite<FileTexture[]>(kBlockSize));

@@ -9,14 +9,14 @@ namespace Vorn {
 
 class TextureSystem;
 
-// A texture as far as records need it: its names, and its extent in pixels, 0 without an image.
+// What records need of a texture: its names, and its size in pixels, which is 0 without an image.
 class FileTexture {
 public:
     static constexpr int kNameCapacity = 256;
 
-    // The system that handed it out.
+    // The system that created it.
     TextureSystem& GetOwner() const { return *owner; }
-    // As long as no image file is looked for, its file name.
+    // The same as the file name as long as no image file is searched for.
     const FixedString<kNameCapacity>& GetName() const { return fileName; }
     const FixedString<kNameCapacity>& GetFileName() const { return fileName; }
     std::int32_t GetWidth() const { return 0; }
@@ -30,14 +30,15 @@ private:
     FileTexture* nextFree = nullptr;
 };
 
-// Hands out textures by name. In the name-only mode that the converter runs in, every call gives an object of its own
-// that only holds the name, and no image file is looked for.
+// Provides textures by name. In the name-only mode, which the converter uses, every call returns a new object that only
+// holds the name, and no image file is searched for.
 class TextureSystem {
 public:
     TextureSystem() = default;
     TextureSystem(const TextureSystem&) = delete;
     TextureSystem& operator=(const TextureSystem&) = delete;
 
+    // The folder of image files, at most 255 units. Not used as long as no image file is searched for.
     void SetFolder(std::u16string_view path) { folder.Assign(path); }
     void SetNameOnlyTextures(bool on) { nameOnlyTextures = on; }
     bool HasNameOnlyTextures() const { return nameOnlyTextures; }

@@ -215,7 +215,7 @@ void IAbilityDef::CheckAction() const {
 }
 
 void IAbilityDef::CheckLevels() const {
-    // The number of a file is tested as a signed one, so that a huge one counts as negative.
+    // Tested as a signed number: a huge one counts as negative.
     const int levelCount = std::min(static_cast<std::int32_t>(maxNumLevels), BuffLevelFloatTable::kLevelCount);
     for (int i = 1; i < levelCount; ++i) {
         CheckAssert(minExperienceLevelRequired.GetValueAtLevel(i - 1) <= minExperienceLevelRequired.GetValueAtLevel(i),

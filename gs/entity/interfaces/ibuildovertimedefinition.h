@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// How long it takes to build an entity, and what shows meanwhile. -1 marks a time that the file does not give.
+// How long it takes to build an entity, and the effect shown meanwhile. A time of -1 means that the file has none.
 struct IBuildOverTimeDefinition : Record {
     float baseBuildTime = -1.0f;
     ParticleSimulationDefinitionRef buildEffectName;

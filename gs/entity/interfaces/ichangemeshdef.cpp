@@ -2,7 +2,7 @@
 
 namespace Vorn {
 
-void ChangeMeshFields::Fields(FieldIo& io) {
+void IChangeMeshDef::Fields(FieldIo& io) {
     io.BoundedList(u"MeshNameInfoCount", meshNameInfos, io.Records(u"MeshNameInfo"));
     io.Value(u"meshNameIncreasedEffectName", meshNameIncreasedEffectName);
     io.Value(u"meshNameDecreasedEffectName", meshNameDecreasedEffectName);
@@ -11,7 +11,7 @@ void ChangeMeshFields::Fields(FieldIo& io) {
     }
 }
 
-void ChangeMeshFields::CheckUnconditionalMeshes() const {
+void IChangeMeshDef::CheckUnconditionalMeshes() const {
     for (int i = 1; i < meshNameInfos.Size(); ++i) {
         CheckAssert(meshNameInfos[i].criteriaType != CriteriaType::None, "false");
     }

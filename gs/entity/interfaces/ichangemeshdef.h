@@ -7,8 +7,8 @@
 namespace Vorn {
 
 // The meshes of an entity whose looks change as research or upgrades go on, and the effects of a change. Only the first
-// mesh should be unconditional: a check tells of each later one.
-struct ChangeMeshFields : Record {
+// mesh should be unconditional: each later one fires the check "false".
+struct IChangeMeshDef : Record {
     FixedVector<MeshNameInfo, 12> meshNameInfos;
     ParticleSimulationDefinitionRef meshNameIncreasedEffectName;
     ParticleSimulationDefinitionRef meshNameDecreasedEffectName;
@@ -17,13 +17,6 @@ struct ChangeMeshFields : Record {
 
 private:
     void CheckUnconditionalMeshes() const;
-};
-
-// The same for each kind of owner. The number of meshes that the game keeps room for differs; the file and its limit of
-// 12 do not.
-template <int MESH_CAPACITY>
-struct IChangeMeshDef : ChangeMeshFields {
-    static constexpr int kMeshCapacity = MESH_CAPACITY;
 };
 
 } // namespace Vorn

@@ -7,8 +7,8 @@ namespace Vorn {
 
 class MeshSystem;
 
-// What has hull and armor. Each mesh of specific debris that is read is looked up as a file and reported if there is
-// none; its name stays.
+// What has hull and armor. Each mesh of specific debris that is read is searched for as a file and reported if there is
+// none; its name is kept.
 struct IDamageDefinition : Record {
     std::uint32_t numRandomDebrisLarge = 0;
     std::uint32_t numRandomDebrisSmall = 0;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// Where a ship stands in a formation.
+// The place of a ship in a formation.
 struct IFormationMemberDefinition : Record {
     std::uint32_t formationRank = 0;
 

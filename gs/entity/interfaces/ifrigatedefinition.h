@@ -36,7 +36,7 @@ template <>
 inline constexpr EnumTable kEnumTable<FrigateRoleType> = MakeTable("FrigateRoleType", kFrigateRoleTypeRows);
 
 // What a frigate is for, what it costs and how strong it is, at each level or once for all. Of more than three roles
-// the first three stay, and a check tells of each further one.
+// the first three are kept, and each further one fires a check.
 struct IFrigateDefinition : Record {
     FixedVector<FrigateRoleType, 3> frigateRoleTypes;
     PlayerEntityCountType statCountType = PlayerEntityCountType::Invalid;

@@ -6,9 +6,9 @@
 
 namespace Vorn {
 
-// The effects of a jump, where an entity has its own. A file older than kHyperspaceEffectsVersion has none of this
-// block, but two sounds at another place, which the owner reads with OldSoundFields. Without custom effects they are
-// kept here and written nowhere.
+// The effects of a jump, where an entity has its own. A file older than kHyperspaceEffectsVersion does not have this
+// block but two sounds at another place, which the owner reads with OldSoundFields. Without custom effects they are
+// kept but not written.
 struct IHyperspaceDefinition : Record {
     struct HyperspaceEffects : Record {
         ParticleSimulationDefinitionRef chargeUpEffectName;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A body that ships orbit. A radius of -1 leaves the choice to the game.
+// A body that ships orbit. A radius of -1 means a default.
 struct IOrbitBodyDefinition : Record {
     float moveAreaRadius = -1.0f;
     float hyperspaceExitRadius = -1.0f;

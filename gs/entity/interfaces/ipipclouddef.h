@@ -11,7 +11,7 @@ inline constexpr std::u16string_view kPipCloudTypeRows[] = {u"Planets", u"Module
 template <>
 inline constexpr EnumTable kEnumTable<PipCloudType> = MakeTable("PipCloudType", kPipCloudTypeRows);
 
-// The icons that stand for a crowd of entities.
+// The icons that represent a crowd of entities.
 struct IPipCloudDef : Record {
     PipCloudType pipCloudType = PipCloudType::Invalid;
     BrushRef empireWindowPipIcon;

@@ -11,7 +11,7 @@
 
 namespace Vorn {
 
-// What makes a planet: its looks, resources, upgrades, bonuses and ruin. A check wants at least one look.
+// What makes a planet: its looks, resources, upgrades, bonuses and ruin. A check requires at least one look.
 struct IPlanetDefinition : Record {
     // One look that a planet of the kind can have.
     struct MeshInfo : Record {

@@ -30,9 +30,9 @@ template <>
 inline constexpr EnumTable kEnumTable<PlanetModuleRoleType> = MakeTable("PlanetModuleRoleType",
                                                                         kPlanetModuleRoleTypeRows);
 
-// What a module in orbit is for, what it takes, how strong it is and where it stands. -1 marks values that a file must
-// set; checks want both distances of placement at 0 or above, something to spawn, and just one of what extracts a
-// resource.
+// The purpose of a module in orbit, its costs, its strength and its placement. -1 marks values that a file must set.
+// Checks require that both distances of placement are 0 or more, that at least one is spawned, and just one if the
+// module extracts a resource.
 struct IPlanetModuleDefinition : Record {
     PlanetUpgradeModuleSlotType planetUpgradeSlotType = PlanetUpgradeModuleSlotType::Invalid;
     float planetUpgradeSlotCount = 0.0f;

@@ -9,8 +9,8 @@
 
 namespace Vorn {
 
-// A race that can be played. Its name is kept as text and known in the list of races too; its faction is an index in
-// the list of factions, and a check wants it there when it is written.
+// A race that can be played. Its name is kept as text and added to the list of races; its faction is an index in the
+// list of factions, and a check requires it to be there when it is written.
 struct IPlayerDef : Record {
     FixedString<256> raceNameStringID;
     std::int32_t race = NameList::kNone;

@@ -13,7 +13,7 @@ inline constexpr std::u16string_view kQuestTypeRows[] = {
 template <>
 inline constexpr EnumTable kEnumTable<QuestType> = MakeTable("QuestType", kQuestTypeRows);
 
-// What a minor power asks of a player, and what it gives for it. Numbers that make no sense are reported and kept.
+// What a minor power demands of a player, and the reward. Numbers that make no sense are reported and kept.
 struct IQuestDefinition : Record {
     static constexpr int kMaxConstraints = 8;
 

@@ -6,8 +6,8 @@
 
 namespace Vorn {
 
-// An asteroid that holds a resource, with up to two meshes to choose from. Checks want both distances of placement at 0
-// or above.
+// An asteroid that holds a resource, with up to two meshes to choose from. Checks require that both distances of
+// placement are 0 or more.
 struct IResourceAsteroidDef : Record {
     Resource resource = Resource::Invalid;
     IHUDDefinition hud;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// The mass of an entity, which a check wants above 0.
+// The mass of an entity. A check requires more than 0.
 struct IRigidBodyDefinition : Record {
     float mass = 0.0f;
 

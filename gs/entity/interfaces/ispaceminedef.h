@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// When a mine wakes, whom it follows, and what scuttling it gives back.
+// When a mine becomes active, which targets it follows, and the refund for scuttling it.
 struct ISpaceMineDef : Record {
     float spawnActivationDelay = 0.0f;
     float targetStartFollowRange = 0.0f;

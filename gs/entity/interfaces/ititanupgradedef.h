@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// An upgrade of a titan in at most 10 stages. A check wants at least one.
+// An upgrade of a titan in at most 10 stages. A check requires at least one.
 struct ITitanUpgradeDef : Record {
     FixedVector<TitanUpgradeStageDef, 10> stages;
 

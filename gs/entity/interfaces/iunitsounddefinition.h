@@ -2,14 +2,15 @@
 
 #include "engine/archive/record.h"
 #include "engine/datastructures/fixedarray.h"
+#include "gs/entity/support/sharedenums.h"
 #include "gs/entity/support/soundid.h"
 
 namespace Vorn {
 
-// What a unit says, a list of sounds for each occasion. Every sound that is read is looked up among the loaded sound
-// data and reported if it is not there; the converter loads none.
+// The sounds of a unit, a list for each occasion. Since no data of sounds is ever loaded, every sound that is read is
+// reported as missing, unless the context turns that off.
 struct IUnitSoundDefinition : Record {
-    static constexpr int kUnitSoundTypeCount = 5;
+    static constexpr int kUnitSoundTypeCount = kEnumTable<UnitSoundType>.rowCount;
 
     FixedArray<DynamicVector<SoundID>, kUnitSoundTypeCount> sounds;
 

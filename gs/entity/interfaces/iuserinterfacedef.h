@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// How near the camera may come.
+// The smallest distance of the camera.
 struct IUserInterfaceDef : Record {
     float minZoomDistanceMult = 0.0f;
 

@@ -12,7 +12,7 @@ void IWeaponOwnerDefinition::Fields(FieldIo& io) {
     io.Uint(u"m_weaponIndexForRange", weaponIndexForRange);
     io.Enum(u"firingAlignmentType", firingAlignmentType);
     if (io.Reading()) {
-        // No owner fires from its sides so far; the value is kept.
+        // No owner can fire from its sides yet; the value is kept.
         CheckAssert(firingAlignmentType != FiringAlignmentType::BroadSide, "false");
     }
     if (firingAlignmentType == FiringAlignmentType::TiltForward) {

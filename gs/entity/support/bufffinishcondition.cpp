@@ -67,7 +67,7 @@ void BuffFinishCondition::Fields(FieldIo& io) {
     io.Enum(u"finishConditionType", finishConditionType, kBuffFinishConditionTypeTable);
     CheckAssert(finishConditionType != BuffFinishConditionType::Invalid, "false");
     if (io.Writing()) {
-        // Writing has always taken this one for out of range.
+        // This value is written correctly, but a check fires.
         CheckAssert(finishConditionType != kAbilityUsed, "false");
     }
     RowFields(io, kFinishConditionRows, finishConditionType, values);

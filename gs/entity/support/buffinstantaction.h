@@ -44,8 +44,8 @@ inline constexpr EnumTable kEnumTable<InstantActionTriggerType> = MakeTable("Ins
 // The numbers are the rows of the table in buffinstantaction.cpp.
 enum class BuffInstantActionType : std::int32_t { Invalid = -1 };
 
-// One thing that a buff or an ability does at once: when, and what. Its type selects its fields; without a type or a
-// trigger the check "false" fires and no fields of that selection follow.
+// One action of a buff or an ability: when it happens, and what it does. Its type selects its fields; without a type or
+// a trigger the check "false" fires and no fields of that selection follow.
 struct BuffInstantAction : Record {
     BuffInstantActionType buffInstantActionType = BuffInstantActionType::Invalid;
     InstantActionTriggerType instantActionTriggerType = InstantActionTriggerType::Invalid;

@@ -11,8 +11,8 @@ namespace Vorn {
 // The numbers are the rows of the table in buffovertimeaction.cpp.
 enum class BuffOverTimeActionType : std::int32_t { Invalid = -1 };
 
-// Something that a buff does as long as it lasts. The type selects the fields that follow it; without a type there are
-// none, and the check "false" fires.
+// An effect of a buff as long as it lasts. The type selects the fields that follow it; without a type there are none,
+// and the check "false" fires.
 struct BuffOverTimeAction : Record {
     // The values of all types, named after their fields.
     struct Values {

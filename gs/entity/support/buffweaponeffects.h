@@ -23,8 +23,7 @@ inline constexpr std::u16string_view kImpactOffsetTypeRows[] = {u"Center", u"Cen
 template <>
 inline constexpr EnumTable kEnumTable<ImpactOffsetType> = MakeTable("ImpactOffsetType", kImpactOffsetTypeRows);
 
-// A shot that is seen when an action goes from one entity to another. Without an origin it has no place to start from,
-// and the check "false" fires.
+// A shot that is seen when an action goes from one entity to another. Without an origin the check "false" fires.
 struct BuffWeaponEffects : Record {
     Bool hasWeaponEffects;
     WeaponEffectOriginType weaponEffectOriginType = WeaponEffectOriginType::Invalid;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// The download that a body of a solar system belongs to while its file names none.
+// The default download content that a body of a solar system belongs to.
 inline constexpr std::int32_t kDefaultDlcId = 731466;
 
 } // namespace Vorn

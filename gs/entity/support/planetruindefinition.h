@@ -8,7 +8,7 @@
 
 namespace Vorn {
 
-// What is left of a planet that was stripped to the core, and what the stripping brings.
+// What remains of a planet that was stripped to the core, and what the player gains.
 struct PlanetRuinDefinition : Record {
     EntityDefNameOf<EntityType::Planet> ruinPlanetType;
     BuffEffectAttachType attachType = BuffEffectAttachType::Invalid;

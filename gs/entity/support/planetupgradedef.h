@@ -7,15 +7,15 @@
 
 namespace Vorn {
 
-// A step of an upgrade path. The path's type, which no file holds, says which fields a stage has behind its price and
-// time; all others stay 0.
+// A step of an upgrade path. The type of the path, which is not stored, determines which fields a stage has after its
+// price and time; all others stay 0.
 struct PlanetUpgradePathStageDef : Record {
     PlanetUpgradePathType pathType = PlanetUpgradePathType::Invalid;
     Price price;
     float upgradeTime = 0.0f;
     float maxPopulation = 0.0f;
     float populationGrowthRate = 0.0f;
-    // A penalty on the way of the population, a bonus of a home planet.
+    // A penalty in the path of the population, a bonus in that of the home planet.
     float taxModifier = 0.0f;
     float maxCivilianModuleSlotCount = 0.0f;
     float maxTacticalModuleSlotCount = 0.0f;
@@ -38,7 +38,7 @@ private:
     void SpecialisationFields(FieldIo& io);
 };
 
-// The stages of one way to upgrade a planet; a surplus only fires the vector's check.
+// The stages of one path of upgrades of a planet; each surplus stage only fires the check of the vector.
 struct PlanetUpgradePathDef : Record {
     PlanetUpgradePathType pathType = PlanetUpgradePathType::Invalid;
     FixedVector<PlanetUpgradePathStageDef, 10> stages;
@@ -46,7 +46,7 @@ struct PlanetUpgradePathDef : Record {
     void Fields(FieldIo& io) override;
 };
 
-// All the ways to upgrade a planet, always every one of them.
+// All paths of upgrades of a planet. Files always hold every one.
 struct PlanetUpgradeDef : Record {
     static constexpr int kPathCount = kEnumTable<PlanetUpgradePathType>.rowCount;
 

@@ -90,7 +90,7 @@ inline constexpr std::u16string_view kTargetConstraintRows[] = {u"NotSelf",
 template <>
 inline constexpr EnumTable kEnumTable<TargetConstraint> = MakeTable("TargetConstraint", kTargetConstraintRows);
 
-// Which entities an action may touch. A filter without objects is reported and kept.
+// Which entities an action can have as targets. A filter without objects is reported and kept.
 struct TargetFilter : Record {
     FixedVector<TargetOwnership, kEnumTable<TargetOwnership>.rowCount> ownerships;
     FixedVector<TargetObject, kEnumTable<TargetObject>.rowCount> objects;

@@ -8,8 +8,9 @@
 namespace Vorn {
 
 // What a stage of an upgrade changes: a number for each `ValueType` and a switch for each `FlagType`. A file lists them
-// in any order and number; the last entry of a type counts, and one of an unknown type fires the check "i >= 0" and is
-// dropped. What is written is in the order of the types, without numbers that are 0 and switches that are off.
+// in any order and number; of several entries of a type the last one is used, and one of an unknown type fires the
+// check "i >= 0" and is dropped. What is written is in the order of the types, without numbers that are 0 and switches
+// that are off.
 template <class ValueType, class FlagType>
 struct UpgradeProperties : Record {
     FixedArray<float, kEnumTable<ValueType>.rowCount> values;

@@ -13,7 +13,7 @@ struct CapitalShipDef : LargeShipDef {
     IBombPlanetDefinition bombPlanet;
     ICapitalShipDefinition capitalShip;
     ISquadContainerDef squads;
-    IChangeMeshDef<10> changeMesh;
+    IChangeMeshDef changeMesh;
 
     void Fields(FieldIo& io) override;
 };

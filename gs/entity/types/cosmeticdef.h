@@ -9,7 +9,7 @@ namespace Vorn {
 // A ship for show: a titan without bombs and squads.
 struct CosmeticDef : LargeShipDef {
     ITitanDefinition titan;
-    IChangeMeshDef<50> changeMesh;
+    IChangeMeshDef changeMesh;
 
     void Fields(FieldIo& io) override;
 };

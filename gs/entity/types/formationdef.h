@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A formation has no content: its shape is not in its file.
+// A formation has no fields: its shape is not in its file.
 struct FormationDef : EntityDef {
     void Fields(FieldIo&) override {}
 };

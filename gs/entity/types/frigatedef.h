@@ -28,7 +28,7 @@
 namespace Vorn {
 
 // A small ship. Its weapons are those of level 0; a frigate with weapon levels holds the factors of damage and cooldown
-// for each level, and checks want both to be 1 at level 0.
+// for each level, and checks require both to be 1 at level 0.
 struct FrigateDef : EntityDef {
     IAttackerDefinition attacker;
     IFleetMemberDefinition fleetMember;
@@ -48,7 +48,7 @@ struct FrigateDef : EntityDef {
     ISquadContainerDef squads;
     std::uint32_t maxNumCommandPoints = 0;
     IUnitSoundDefinition unitSound;
-    IChangeMeshDef<10> changeMesh;
+    IChangeMeshDef changeMesh;
     ParticleSimulationDefinitionRef exhaustParticleSystemName;
     ParticleSimulationDefinitionRef explosionName;
     SoundID engineSoundID;

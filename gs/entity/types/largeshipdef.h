@@ -21,7 +21,8 @@
 
 namespace Vorn {
 
-// What capital ships, titans and cosmetic ships have in common, in the three runs that stand in each of their lists.
+// What capital ships, titans and cosmetic ships have in common, in three groups, each one at its place in their lists
+// of fields.
 struct LargeShipDef : EntityDef {
     IAbilityContainerDef abilities;
     IAttackerDefinition attacker;

@@ -7,7 +7,7 @@
 
 namespace Vorn {
 
-// What an artifact or another find changes at a planet. A check wants the range of levels in order.
+// What an artifact or another find changes at a planet. A check requires the range of levels to be in order.
 struct PlanetBonusDef : EntityDef {
     std::uint32_t minUpgradeLevelNeeded = 0;
     std::uint32_t maxUpgradeLevelNeeded = 0;

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A lane between two planets. It has no fields: its file says no more than its type.
+// A lane between two planets. It has no fields: its file contains the type alone.
 struct PlanetConnectionDef : EntityDef {
     void Fields(FieldIo&) override {}
 };

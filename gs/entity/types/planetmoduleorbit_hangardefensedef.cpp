@@ -7,7 +7,7 @@ void PlanetModuleOrbit_HangarDefenseDef::Fields(FieldIo& io) {
     io.Block(squads);
     io.Block(weaponOwner);
     io.Uint(u"baseCommandPoints", baseCommandPoints);
-    // Behind the weapons, unlike in the weapon defence.
+    // After the weapons, unlike in the weapon defence.
     io.Block(attacker);
 }
 

@@ -17,7 +17,7 @@
 
 namespace Vorn {
 
-// What all modules in orbit have in common; each class adds its own behind it in the file.
+// What all modules in orbit have in common; the fields of each class follow them in the file.
 struct PlanetModuleOrbitDef : EntityDef {
     IUserInterfaceDef userInterface;
     IAbilityContainerDef abilities;
@@ -29,7 +29,7 @@ struct PlanetModuleOrbitDef : EntityDef {
     IAutoRotateDef autoRotate;
     IShieldDefinition shield;
     IUnitSoundDefinition unitSound;
-    IChangeMeshDef<10> changeMesh;
+    IChangeMeshDef changeMesh;
     ExplosionEffectDefGroupRef explosionName;
     BrushRef mainViewIcon;
     BrushRef picture;

@@ -23,7 +23,7 @@ void StarBaseDef::Fields(FieldIo& io) {
     io.Block(physics);
     io.Block(hyperspace);
     io.Block(rigidBody);
-    // Not at the place of the block that replaced them.
+    // These are not at the place of the block that replaced them.
     hyperspace.OldSoundFields(io);
 }
 

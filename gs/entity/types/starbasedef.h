@@ -35,7 +35,7 @@ struct StarBaseDef : EntityDef {
     IShieldDefinition shield;
     ISquadContainerDef squads;
     IStarBaseDef starBase;
-    IChangeMeshDef<25> changeMesh;
+    IChangeMeshDef changeMesh;
     IUnitSoundDefinition unitSound;
     ExplosionEffectDefGroupRef explosionName;
     IFormationMemberDefinition formationMember;

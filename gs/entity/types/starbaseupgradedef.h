@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// An upgrade of a star base. Icons stand in its stages alone.
+// An upgrade of a star base. Icons are in its stages alone.
 struct StarBaseUpgradeDef : EntityDef {
     IStarBaseUpgradeDef upgrade;
 

@@ -13,7 +13,7 @@ struct TitanDef : LargeShipDef {
     IBombPlanetDefinition bombPlanet;
     ITitanDefinition titan;
     ISquadContainerDef squads;
-    IChangeMeshDef<50> changeMesh;
+    IChangeMeshDef changeMesh;
 
     void Fields(FieldIo& io) override;
 };

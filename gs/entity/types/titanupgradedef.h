@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// An upgrade of a titan. Icons stand in its stages alone.
+// An upgrade of a titan. Icons are in its stages alone.
 struct TitanUpgradeDef : EntityDef {
     ITitanUpgradeDef upgrade;
 

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A trigger has no content: its file tells that it is there.
+// A trigger has no fields: its file contains the type alone.
 struct TriggerDef : EntityDef {
     void Fields(FieldIo&) override {}
 };

@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// A weapon by itself has no content: weapons are part of their owners.
+// A weapon has no fields of its own: weapons are part of their owners.
 struct WeaponDef : EntityDef {
     void Fields(FieldIo&) override {}
 };

@@ -5,7 +5,7 @@
 
 namespace Vorn {
 
-// Appends a fresh element to a list that no file may overflow: one too many fires the vector's check and ends the
+// Appends a new element to a list that must not overflow: one too many fires the check of the vector and ends the
 // process abnormally.
 template <class T, int N>
 T& AppendOrEnd(FixedVector<T, N>& list) {

@@ -16,7 +16,7 @@ void ParticleAffector::Fields(FieldIo& io) {
     AttachmentFields(io);
 }
 
-// Files may hold longer names than the list does, which are cut when they are taken over.
+// Names may be longer in files than in the list; they are cut when they are added.
 void ParticleAffector::AttachmentFields(FieldIo& io) {
     const std::int32_t count = io.Count({u"numAttachedEmitters", ListRule::Fatal, attachedEmitterNames.Capacity()},
                                         attachedEmitterNames.Size());

@@ -10,8 +10,8 @@ namespace Vorn {
 
 class ParticleSimulationDefinition;
 
-// The part of an effect that changes particles while they live, those of the emitters whose names it lists. Names match
-// exactly; one that no emitter has is kept. What all affectors share stands first in each one's fields.
+// The part of an effect that changes particles while they live, those of the emitters whose names it lists. Names must
+// match exactly; one that no emitter has is kept. The fields that all affectors share come first.
 class ParticleAffector : public ParticlePart {
 public:
     // Numbered by the rows of the table in particleaffectorkinds.cpp.
@@ -29,7 +29,7 @@ public:
 
     Type GetType() const { return type; }
 
-    // Works out anew which of the definition's emitters it is attached to.
+    // Determines again which of the definition's emitters it is attached to.
     void UpdateAttachedEmitters();
     // By the place in the definition's list of emitters.
     bool IsAttachedTo(int emitter) const { return isAttached[emitter]; }

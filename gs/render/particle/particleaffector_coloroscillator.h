@@ -4,7 +4,7 @@
 
 namespace Vorn {
 
-// Swings between two colours. The alphas stand beside those of the colours and are independent of them.
+// Swings between two colours. The two alphas are independent of those in the colours.
 class ParticleAffector_ColorOscillator final : public ParticleAffector {
 public:
     using ParticleAffector::ParticleAffector;

@@ -11,7 +11,7 @@ namespace {
 constexpr std::uint32_t kMissingNumber = 0xFFFFFFFF;
 constexpr std::uint32_t kParticleFacingCount = 3;
 
-// A number that a missing key sets to -1 instead of leaving its default.
+// A number that becomes -1 if its key is missing, instead of keeping its default.
 void UintOrMissing(FieldIo& io, Label label, std::uint32_t& value) {
     if (io.Reading()) {
         value = kMissingNumber;
@@ -90,7 +90,7 @@ void ParticleEmitter::AppearanceFields(FieldIo& io) {
     io.Bool(u"AreParticlesAttached", areParticlesAttached);
 }
 
-// A file may hold any number of names: surplus ones fire the array's check and are dropped.
+// A file may hold any number of names: each surplus one fires the check of the array and is dropped.
 void ParticleEmitter::TextureFields(FieldIo& io) {
     const std::int32_t elementCount =
         io.Count({u"numTextures", ListRule::Exact, textureNames.Size()}, textureNames.Size());

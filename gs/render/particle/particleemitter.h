@@ -24,8 +24,8 @@ template <>
 inline constexpr EnumTable kEnumTable<TextureAnimationSpawnType> = MakeTable("TextureAnimationSpawnType",
                                                                              kTextureAnimationSpawnTypeTexts);
 
-// The part of an effect that creates particles. What all emitters share stands first in each one's fields; the derived
-// classes add the shape of the source. Values out of order or range are reported, kept and written back.
+// The part of an effect that creates particles. The fields that all emitters share come first; the derived classes add
+// the shape of the source. Values out of order or range are reported, kept and written back.
 class ParticleEmitter : public ParticlePart {
 public:
     // Numbered by the rows of the table in particleemitterkinds.cpp.
@@ -41,6 +41,7 @@ public:
     void Fields(FieldIo& io) override;
 
     Type GetType() const { return type; }
+    // The square that the anchor gives a particle; not stored.
     const BillboardQuad& GetBillboardQuad() const { return billboardQuad; }
 
     // Also renames the emitter in the lists of the affectors that are attached to it.

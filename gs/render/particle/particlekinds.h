@@ -8,8 +8,8 @@ namespace Vorn {
 
 class ParticleSimulationDefinition;
 
-// A kind of emitter or affector: its text in files and the maker of its class, null for a text that no class has. The
-// row of a kind is the value of its type.
+// A kind of emitter or affector: its text in files and the function that creates its class, null for a text without a
+// class. The number of the row is the value of the type.
 template <class Part>
 struct ParticleKind {
     std::u16string_view text;

@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::int32_t kNoCount = -1;
 
-// Ends the process for a part that the effect cannot hold: null, for a type without a class, or one too many. A part
-// may be both, and fires both checks.
+// Ends the process for a part that the effect cannot hold: null, which means a type without a class, or one too many.
+// If it is both, both checks fire.
 template <class Part, int N>
 Part& AppendPart(FixedVector<std::unique_ptr<Part>, N>& parts, std::unique_ptr<Part> part) {
     CheckAssert(part != nullptr, "false");
@@ -27,7 +27,7 @@ struct PartLabels {
     Label contents;
 };
 
-// Parts of various classes: each one's type stands in front, so that the reader can make the class with `add`.
+// Parts of various classes: the type comes first, so that `add` can create the class when reading.
 template <class Part, int N, class Add>
 void PartList(FieldIo& io, const PartLabels& labels, FixedVector<std::unique_ptr<Part>, N>& parts, Add add) {
     const std::int32_t count = io.Count({labels.count, ListRule::Fatal, N}, parts.Size(), kNoCount);

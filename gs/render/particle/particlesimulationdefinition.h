@@ -5,11 +5,13 @@
 
 namespace Vorn {
 
-// The recipe of one particle effect: its lifetime in seconds, and its emitters and affectors in the order of the file.
+// The definition of one particle effect: its lifetime in seconds, and its emitters and affectors in the order of the
+// file.
 class ParticleSimulationDefinition : public Record {
 public:
     static constexpr int kMaxEmitters = 32;
     static constexpr int kMaxAffectors = 30;
+    static_assert(kMaxEmitters == ParticleAffector::kMaxAttachedEmitters);
 
     // The key of the one record that a particle file holds.
     static constexpr Label kLabel = u"ParticleSimulation";
@@ -26,8 +28,10 @@ public:
 
     int GetEmitterCount() const { return emitters.Size(); }
     const ParticleEmitter& GetEmitter(int i) const { return *emitters[i]; }
+    int GetAffectorCount() const { return affectors.Size(); }
+    const ParticleAffector& GetAffector(int i) const { return *affectors[i]; }
 
-    // Carries an emitter's new name into the affectors that are attached to it.
+    // Renames an emitter in the affectors that are attached to it.
     void RenameAttachedEmitter(std::u16string_view oldName, std::u16string_view newName);
 
     // Cuts the names of all emitters' files down to name and extension.

@@ -95,7 +95,7 @@ TEST_F(ListTest, HeapListsTakeAll) {
     EXPECT_EQ(ReadList(-1, reserved), Numbers());
 }
 
-// A damaged count ends in seconds: only so much work is done where nothing new is read.
+// A damaged count ends in seconds, since the number of idle reads is limited.
 class ValveTest : public ArchiveTest {
 protected:
     void Handle(const char*, int, std::u16string_view, bool) override {}
@@ -116,7 +116,7 @@ protected:
 TEST_F(ValveTest, IdleReadsCountWithTheirReports) {
     struct Row {
         std::string bytes;
-        // What an idle read counts: itself, its reports, and each 256 bytes of those.
+        // What an idle read counts: itself, its reports, and each 256 bytes of them.
         int work;
     };
     const std::string text = std::string(kTextHeader) + "count 2147483647\n";
@@ -144,7 +144,7 @@ TEST_F(ValveTest, OtherReportsDoNotCount) {
     });
 }
 
-// Stands for the end of the process.
+// Thrown instead of ending the process.
 struct End {};
 
 class CaughtEnd final : public EndGuard {
@@ -152,7 +152,7 @@ public:
     void BeforeAbnormalEnd() override { throw End(); }
 };
 
-// Five bytes and two texts in a binary file, much more in memory.
+// Five bytes and two texts in a binary file, but much more in memory.
 struct SmallRecord : Record {
     void Fields(FieldIo& io) override {
         io.Bool(u"flag", flag);

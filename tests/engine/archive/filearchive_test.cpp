@@ -2,6 +2,7 @@
 #include "tests/support/allkinds.h"
 #include "tests/support/archivetest.h"
 
+#include <array>
 #include <bit>
 #include <charconv>
 #include <random>
@@ -52,7 +53,7 @@ TEST_F(FileArchiveTest, TextFormOfEveryKind) {
     EXPECT_EQ(written, kPlainText);
     AllKinds read;
     Read(std::string(kTextHeader) + written, FieldsOf(read));
-    // The string is cut at the first quote inside; all else comes back.
+    // The string is cut at its first quote; all other fields are read back unchanged.
     EXPECT_EQ(read.string.View(), u"a ");
     read.string = all.string;
     EXPECT_EQ(Written(FileArchiveType::Text, FieldsOf(read)), kPlainText);
@@ -98,7 +99,7 @@ TEST_F(FileArchiveTest, BinaryFormOfEveryKind) {
     Read(std::string(kBinaryHeader) + written, FieldsOf(read));
     EXPECT_EQ(read.string.View(), all.string.View());
     EXPECT_EQ(Written(FileArchiveType::Binary, FieldsOf(read)), written);
-    // Cut anywhere, it reads to its end and says so.
+    // Wherever the file is cut, all fields are read, and the end is reported.
     for (std::size_t length = 0; length < written.size(); ++length) {
         AllKinds cut;
         Read(std::string(kBinaryHeader) + written.substr(0, length), FieldsOf(cut));
@@ -121,7 +122,10 @@ TEST_F(FileArchiveTest, ValuesInText) {
         const char* result;
         Reports reports = {};
     };
-    const std::string quote = "\" not found wrapping data string: string\nFileName: ";
+    const auto unquoted = [&](const char* value) {
+        return "\" not found wrapping data string: string\nFileName: " + Utf8(NameIn("source")) +
+               "\nLine #: 16\nLine Content: string " + value + "\n";
+    };
     const Row rows[] = {
         {"int", "12abc", "12"},
         {"int", "abc", "-7", {Check("result == 1")}},
@@ -147,6 +151,8 @@ TEST_F(FileArchiveTest, ValuesInText) {
         {"vector3", "[ 4 ]", "[ 4.000000 -2.000000 0.000000 ]", {Check("result == 3")}},
         {"quad", "[ 1 2 3, 4 ]", "[ 1.000000 2.000000 3.000000 1000000000.000000 ]", {Check("result == 4")}},
         {"string", "\"\"", "\"\""},
+        {"string", "none", "\"\"", {unquoted("none")}},
+        {"string", "\"open", "\"open\r\n\"", {unquoted("\"open")}},
         {"string", "see \"this\" \"that\"", "\"this\""},
         {"string", "\"1234567890123456789\"", "\"1234567890123456789\""},
         {"string", "\"123456789012345678901\"", "\"1234567890123456789\"",
@@ -156,7 +162,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.kind) + " " + row.value);
         AllKinds read = all;
-        // All lines stand as written but for the one of the kind.
+        // All lines are as written except that of the kind.
         const auto replaced = [&](const std::string& value) {
             const std::size_t start = plain.find("\r\n" + std::string(row.kind) + " ") + 3 + std::strlen(row.kind);
             return std::string(plain).replace(start, plain.find("\r\n", start) - start, value).substr(2);
@@ -171,7 +177,7 @@ TEST_F(FileArchiveTest, ValuesInText) {
     }
 }
 
-// Plain bytes are read by a fast path and units of other encodings by the slow one; both must agree.
+// Plain bytes are read by the fast path and other encodings by the slow one; the results must be the same.
 TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -200,7 +206,7 @@ TEST_F(FileArchiveTest, PlainLinesReadLikeDecodedOnes) {
     }
 }
 
-// The fast path has an arithmetic of its own; the library gives what it must come to.
+// The fast path computes numbers by itself; the standard library gives the expected values.
 TEST_F(FileArchiveTest, NumbersOfAllLengths) {
     const auto seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -213,7 +219,7 @@ TEST_F(FileArchiveTest, NumbersOfAllLengths) {
         return text;
     };
     const auto sign = [&] { return std::string(random() % 2, '-'); };
-    // The first ones stand in the middle between two floats.
+    // The first ones are exactly in the middle between two floats.
     std::vector<std::string> floats = {"16777217.000000", "-16777219.000000", "8388608.500000", "268435472.000000",
                                        "0.000000",        "-0.000000",        "9.999999",       "10.000000"};
     std::vector<std::string> ints = {"2147483647", "-2147483648", "0000000", "-0"};
@@ -291,7 +297,7 @@ TEST_F(FileArchiveTest, LabelsAndLines) {
     }
 }
 
-// The last line stays for examination, again and again, also after other labels failed on it.
+// The last line stays the current one and can be read any number of times, even after other labels did not match it.
 TEST_F(FileArchiveTest, LastLineServesItsLabelForEver) {
     DynamicVector<FixedString<20>> sounds;
     std::int32_t other = 5;
@@ -306,7 +312,7 @@ TEST_F(FileArchiveTest, LastLineServesItsLabelForEver) {
     EXPECT_EQ(std::count(sounds.begin(), sounds.end(), FixedString<20>(u"a")), 4);
 }
 
-// Rows take fresh lines whatever they hold, and the old one again at the end of the file.
+// Each row is read from the next line, whatever its content, and at the end of the file from the last line again.
 TEST_F(FileArchiveTest, MatrixRowsHaveNoLabel) {
     Matrix33 matrix;
     std::int32_t behind = 0;
@@ -345,10 +351,35 @@ TEST(CheckSum, Fletcher) {
     for (const std::uint32_t unit : {0u, 1u, 0xFFFFu, 0x10000u, 0x80000000u, 0x12345678u, 0xFFFFFFFFu}) {
         EXPECT_EQ(AddFletcher(unit), AddFletcher(&unit, 1)) << unit;
     }
+    EXPECT_EQ(AddFletcher(0x00010002), 0x00050003U);
     EXPECT_EQ(StringCheckSum(u"ab\xFFFF"), 0x61u + 0x62 + 0xFFFF);
 }
 
-// Each kind adds to the sum by its own rule, which differs between the forms.
+template <std::size_t N>
+void ExpectSumOfEach(std::mt19937& random) {
+    std::array<float, N> values;
+    std::uint32_t sum = 0;
+    for (float& value : values) {
+        const std::uint32_t unit = random() % 4 == 0 ? 0 : static_cast<std::uint32_t>(random());
+        value = std::bit_cast<float>(unit);
+        sum += AddFletcher(&unit, 1);
+    }
+    EXPECT_EQ(CheckSumOf(values), sum) << N;
+}
+
+// Four floats at a time, and what is left of each size of a value.
+TEST(CheckSum, OfSeveralFloatsIsTheSumOfEach) {
+    std::mt19937 random(7);
+    for (int i = 0; i < 100; ++i) {
+        ExpectSumOfEach<1>(random);
+        ExpectSumOfEach<3>(random);
+        ExpectSumOfEach<4>(random);
+        ExpectSumOfEach<9>(random);
+        ExpectSumOfEach<16>(random);
+    }
+}
+
+// Each kind has its own rule for the sum, which may differ between the forms.
 TEST_F(FileArchiveTest, CheckSumsOfBothForms) {
     constexpr std::uint32_t kHalf = 0x3F003F00;
     constexpr std::uint32_t kOne = 0x3F803F80;

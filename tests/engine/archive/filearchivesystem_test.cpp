@@ -56,7 +56,7 @@ TEST_F(FileArchiveSystemTest, RefusesWhatIsNeither) {
     EXPECT_EQ(core->fileArchiveSystem.GetFileArchiveCount(), 0);
 }
 
-// Files of a store that deliver their bytes one by one, and that open once only.
+// A store whose files return single bytes and can be opened only once.
 class OnceStore final : public FileStore {
 public:
     std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override {

@@ -22,7 +22,7 @@ public:
     }
     void Write(Archive& archive) const override { archive.Write(u"volume", volume); }
 
-    std::int32_t volume = 50;
+    float volume = 50.0f;
     std::vector<std::uint32_t> versionsRead;
 };
 
@@ -35,11 +35,11 @@ protected:
         EngineTest::Handle(file, isFailure ? line : -1, text, isFailure);
     }
 
-    // A settings file with these lines behind its header.
+    // A settings file with these lines after its header.
     void PutSettings(std::string_view lines) { Put("settings", kHeader + std::string(lines)); }
 
-    // Opens the settings and tells their volume and the versions that were read.
-    void ExpectOpened(std::string_view fileName, std::int32_t volume, const std::vector<std::uint32_t>& versions) {
+    // Opens the settings and checks their volume and the versions that were read.
+    void ExpectOpened(std::string_view fileName, float volume, const std::vector<std::uint32_t>& versions) {
         Settings settings(core->fileArchiveSystem, NameIn(fileName), kVersion);
         settings.Open();
         EXPECT_EQ(settings.volume, volume);
@@ -48,7 +48,7 @@ protected:
 
     void ExpectNewFile(std::string_view volume) {
         EXPECT_EQ(ReadBytes(folder.Path() / "settings"),
-                  kHeader + "Version 3\r\nvolume " + std::string(volume) + "\r\n");
+                  kHeader + "Version 3\r\nvolume " + std::string(volume) + ".000000\r\n");
     }
 
     std::string NotFound(std::string_view name) {
@@ -81,7 +81,7 @@ TEST_F(VersionedFileArchiveTest, NoArchive) {
     ExpectNewFile("50");
 }
 
-// What an old file holds is taken over into the new one.
+// The values of an old file are kept in the new one.
 TEST_F(VersionedFileArchiveTest, OldVersion) {
     PutSettings("Version 2\nvolume 70\n");
     ExpectOpened("settings", 70, {2, 3});

@@ -84,7 +84,7 @@ TEST_F(HandlerTest, GetsReportsCutAtTheirCapacity) {
     EXPECT_EQ(handled[1].text.size(), 4095u);
 }
 
-// Without a handler: standard error, the log file and the dialogs.
+// Without a handler reports go to standard error, the log file and dialogs.
 class SinkTest : public testing::Test, public MessageHandler {
 protected:
     SinkTest() {

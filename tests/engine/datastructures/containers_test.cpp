@@ -8,7 +8,7 @@ namespace Vorn {
 
 namespace {
 
-// Counts its living objects, so that a container that loses or doubles one is found.
+// Counts its objects, so that a container that loses or doubles one is detected.
 struct Element {
     Element() { ++living; }
     Element(int _value) : value(_value) { ++living; }
@@ -119,6 +119,9 @@ TEST_F(ContainerTest, ListLinksAndChecksItsNodes) {
     (*end).value = 5;
     EXPECT_EQ(TakeReports(), Reports(3, Check("m_pNode != NULL")));
     EXPECT_EQ(list.Size(), 2);
+    list.Clear();
+    EXPECT_EQ(list.Size(), 0);
+    EXPECT_EQ(ValuesOf(list), Values());
 }
 
 TEST_F(ContainerTest, UsedUpPoolsTakeFromTheHeap) {

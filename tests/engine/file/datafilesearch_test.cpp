@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Runs two levels below the folder, beside which the data source folder lies.
+// Runs two levels below the folder that contains the data source folder.
 class DataFileSearchTest : public FileTest {
 protected:
     DataFileSearchTest() : formerFolder(fs::current_path()) {

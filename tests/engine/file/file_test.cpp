@@ -23,7 +23,7 @@ TEST_F(FileSystemTest, WritesTextWithMarkAndLineEnds) {
     EXPECT_EQ(core->fileSystem.OpenCount(), 0);
 }
 
-// Pieces and blocks of the way out, with pairs and line feeds across their borders.
+// Pieces and blocks of the output, with surrogate pairs and line feeds across their borders.
 TEST_F(FileSystemTest, WritesLongText) {
     for (std::size_t shift = 0; shift < 6; ++shift) {
         std::u16string text(shift, u'x');
@@ -66,6 +66,35 @@ TEST_F(FileSystemTest, LargeWritesAndReadsPassTheBuffer) {
     EXPECT_EQ(file->Read(back.data() + 9, 1, static_cast<int>(back.size()) - 9), static_cast<int>(back.size()) - 9);
     core->fileSystem.Close(file);
     EXPECT_TRUE(back == bytes);
+}
+
+TEST_F(FileSystemTest, IndentsLines) {
+    File* file = Open("lines", FileAccess::Write, FileTranslation::Text);
+    std::string bytes = "\xEF\xBB\xBF";
+    for (const int tabs : {0, 20, -1}) {
+        for (int i = 0; i < 20000; ++i) {
+            char* out = file->BeginLine(tabs);
+            std::memcpy(out, "line\r\n", 6);
+            file->CommitLine(out + 6);
+            bytes += std::string(static_cast<std::size_t>(std::max(tabs, 0)), '\t') + "line\r\n";
+        }
+    }
+    core->fileSystem.Close(file);
+    EXPECT_TRUE(ReadBytes(folder.Path() / "lines") == bytes);
+}
+
+TEST_F(FileSystemTest, FilesAreReadOrWritten) {
+    Put("file", "12345");
+    File* file = Open("file", FileAccess::Read);
+    file->Write("x", 1, 1);
+    EXPECT_EQ(TakeReports(), Reports({Check("fileWriteResult == count")}));
+    core->fileSystem.Close(file);
+    file = Open("file", FileAccess::Write);
+    char byte = 'y';
+    EXPECT_EQ(file->TryRead(&byte, 1, 1), 0);
+    EXPECT_EQ(byte, 'y');
+    core->fileSystem.Close(file);
+    EXPECT_EQ(ReadBytes(folder.Path() / "file"), "");
 }
 
 TEST_F(FileSystemTest, ReportsWhatDoesNotOpen) {

@@ -109,10 +109,11 @@ TEST_F(LineReaderTest, MarksPickTheEncoding) {
                             "b"),
                   Lines({u"a\xFFFD"}));
         EXPECT_EQ(TakeMissingLineEnds(), 1u);
+        EXPECT_EQ(ReadLines(Utf16(u"\xFEFF標\n", big)), Lines({u"標\n"})) << "no byte of it is 0 or above 127";
     }
 }
 
-// Capacity 1024 holds 1023 units with the line feed; the rest of a longer line is the next one.
+// A capacity of 1024 is 1023 units with the line feed; the rest of a longer line is read as the next one.
 TEST_F(LineReaderTest, CutsAtTheCapacity) {
     for (const char* lineEnd : {"\n", "\r\n"}) {
         EXPECT_EQ(ReadLines(std::string(1022, 'x') + lineEnd), Lines({std::u16string(1022, u'x') + u"\n"}));
@@ -122,7 +123,7 @@ TEST_F(LineReaderTest, CutsAtTheCapacity) {
         EXPECT_EQ(ReadLines(std::string(1024, 'x') + lineEnd), Lines({std::u16string(1023, u'x'), u"x\n"}));
         EXPECT_EQ(TakeMissingLineEnds(), 1u);
     }
-    // Counted in units, so that a pair may be parted and bytes do not matter.
+    // Counted in units, not bytes, so that a surrogate pair may be split.
     EXPECT_EQ(ReadLines("ab\xF0\x9F\x9A\x80"
                         "c\n",
                         4),
@@ -137,7 +138,7 @@ TEST_F(LineReaderTest, CutsAtTheCapacity) {
     EXPECT_EQ(TakeMissingLineEnds(), 0u);
 }
 
-// Wherever the blocks of the buffer meet, lines, line ends and characters come whole.
+// Lines, line ends and characters that cross the end of a block of the buffer are read correctly.
 TEST_F(LineReaderTest, BlockBoundariesDoNotShow) {
     const std::string line = "0123456789\xC3\xB6\xE6\xA8\x99\xF0\x9F\x9A\x80\r\n";
     const std::u16string expected = u"0123456789ö標\U0001F680\n";
@@ -156,7 +157,7 @@ TEST_F(LineReaderTest, BlockBoundariesDoNotShow) {
     }
 }
 
-// A source that fails behind its first bytes.
+// A source that fails after its first bytes.
 class FailingStore final : public FileStore {
 public:
     std::unique_ptr<ByteStream> Open(std::u16string_view, FileAccess) override { return std::make_unique<Stream>(); }

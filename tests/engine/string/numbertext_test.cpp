@@ -37,7 +37,7 @@ TEST(NumberText, FixedOddities) {
         {-kInfinity, "-inf"},
         {std::bit_cast<float>(0x7FC00000), "nan"},
         {std::bit_cast<float>(0xFF800001), "-nan"},
-        // The last place is a tie here, which goes to the even digit.
+        // The last place is a tie here, which is rounded to the even digit.
         {0.00048828125f, "0.000488"},
         {8388607.5f, "8388607.500000"},
         {16777216.0f, "16777216.000000"},
@@ -55,7 +55,7 @@ TEST(NumberText, FixedEqualsTheLibrary) {
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     for (int i = 0; i < 300000; ++i) {
-        // One half of any size, one half where the integer arithmetic works, with ties among them.
+        // Half of them of any size, the others in the range of the fast path, with ties among them.
         auto bits = static_cast<std::uint32_t>(random());
         if (i % 2 == 0) {
             bits = (bits & 0x807FFFFF) | static_cast<std::uint32_t>(0x60 + random() % 0x3A) << 23;

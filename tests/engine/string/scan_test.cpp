@@ -13,7 +13,7 @@ std::u16string Wide(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
-// The bits stored, or nothing.
+// The bits of the stored value, or nothing.
 std::optional<std::uint32_t> ScannedFloat(std::string_view text) {
     float value = 0.0f;
     const std::u16string wide = Wide(text);

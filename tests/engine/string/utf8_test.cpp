@@ -20,6 +20,7 @@ TEST(Utf8, NamesSurviveAnyBytes) {
          u"a\xDCFF"
          u"b\xDCC3"},
         {"\xED\xA0\x80", u"\xDCED\xDCA0\xDC80"},
+        {"\xED\x9F\xBF\xF4\x8F\xBF\xBF", u"\xD7FF\U0010FFFF"},
         {"\xC0\x80\xF4\x90\x80\x80", u"\xDCC0\xDC80\xDCF4\xDC90\xDC80\xDC80"},
     };
     for (const Row& row : rows) {

@@ -34,7 +34,7 @@ TEST_F(BrushTest, TextureQuadsWithoutAnImage) {
     EXPECT_EQ(untouched.corners[3].v, 1.0f);
 }
 
-// The sign of each coordinate tells on which side of 0 an edge lies, so which margin it has.
+// The sign of each coordinate shows on which side of 0 an edge is, and so which margin was used.
 TEST_F(BrushTest, MarginsPartTheTexture) {
     const auto corners = [&](std::string_view margins) {
         std::string text = kFrame;

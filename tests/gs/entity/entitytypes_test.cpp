@@ -15,15 +15,15 @@ protected:
         return ReadBytes(folder.Path() / fileName).value_or("");
     }
 
-    // What a file comes out as in another form; empty if it has no definition.
+    // The result of converting a file into another form; empty if the file has no definition.
     std::string ConvertFile(std::string_view from, std::string_view to, FileArchiveType form) {
         EntitySystem entitySystem(core->fileArchiveSystem);
         const std::unique_ptr<EntityDef> definition = entitySystem.LoadEntityDef(NameIn(from));
         return definition != nullptr ? WriteFile(entitySystem, *definition, to, form) : "";
     }
 
-    // Empty contents fail checks of what a definition should hold. Any other report means that reading and writing are
-    // out of step.
+    // Empty contents fail checks of what a definition should hold. Any other report means that reading and writing do
+    // not match.
     void ExpectChecksAlone() {
         for (const std::string& report : TakeReports()) {
             EXPECT_EQ(report.rfind("assert! [", 0), 0) << report;
@@ -32,20 +32,20 @@ protected:
 };
 
 TEST_F(EntityTypesTest, EachTypeHasItsClassButTwo) {
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         ASSERT_NE(row, nullptr);
         const bool isRefused = row->text == u"PlanetModuleSpaceMine" || row->text == u"PlanetModuleUserAbilityModule";
         EXPECT_EQ(row->make == nullptr, isRefused) << Utf8(row->text);
     }
     EXPECT_EQ(FindEntityType(EntityType::Invalid), nullptr);
-    EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeCount)), nullptr);
+    EXPECT_EQ(FindEntityType(static_cast<EntityType>(kEntityTypeTable.rowCount)), nullptr);
 }
 
-// Other tables number the types by their order.
+// Other tables refer to the types by their numbers.
 TEST_F(EntityTypesTest, TheOrderIsKeptForGood) {
     std::string order;
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         order += Utf8(FindEntityType(static_cast<EntityType>(i))->text) + " ";
     }
     EXPECT_EQ(order, "Ability Buff EmpireWindowNode Fighter Squad Debris Weapon CannonShell CapitalShip Cosmetic "
@@ -59,7 +59,7 @@ TEST_F(EntityTypesTest, TheOrderIsKeptForGood) {
 }
 
 TEST_F(EntityTypesTest, AnEmptyDefinitionOfEachTypeSurvivesBothForms) {
-    for (std::int32_t i = 0; i < kEntityTypeCount; ++i) {
+    for (std::int32_t i = 0; i < kEntityTypeTable.rowCount; ++i) {
         const EntityTypeRow* row = FindEntityType(static_cast<EntityType>(i));
         if (row->make == nullptr) {
             continue;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace Vorn {
 
 namespace {
@@ -15,7 +17,7 @@ struct Content {
     std::string bytes;
 };
 
-// All samples, and all sources of all cases.
+// All samples, and the sources of all cases.
 std::vector<Content> AllContents() {
     std::vector<Content> contents;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(KELVANE_SAMPLES)) {
@@ -55,6 +57,31 @@ TEST(ContentConverterTest, GivesTheSameBytesWhateverWasConvertedBefore) {
             EXPECT_EQ(convert(contents[i]), forwards[i]) << contents[i].bytes;
         }
     }
+}
+
+// Angles are kept in radians, which costs them their last decimals.
+TEST(ContentConverterTest, OnlyAnglesPassThroughRadians) {
+    ContentConverter converter;
+    std::set<std::string> angles;
+    for (const Content& content : AllContents()) {
+        std::string source;
+        for (const std::string& line : SplitFields(content.bytes)) {
+            const std::string_view value = ValueOf(line);
+            const bool isFloat = value.size() > 7 && value[value.size() - 7] == '.' && value.find('"') == value.npos;
+            source += isFloat ? std::string(KeyOfLine(line)) + " 17.299999" : line;
+            source += "\r\n";
+        }
+        if (converter.Convert(content.kind, "name", source, FileArchiveType::Text) == ConversionResult::Converted) {
+            for (const std::string& line : SplitFields(converter.Bytes())) {
+                if (ValueOf(line) == "17.299997") {
+                    angles.emplace(KeyOfLine(line));
+                }
+            }
+        }
+    }
+    EXPECT_EQ(angles, (std::set<std::string>{"angleOffset", "angleVariance", "angularSpeed", "firingTiltAngle",
+                                             "maxAccelerationAngular", "maxDecelerationAngular", "maxRollAngle",
+                                             "maxRollRate"}));
 }
 
 TEST(ContentConverterTest, TellsWhyNothingComesOfAContent) {

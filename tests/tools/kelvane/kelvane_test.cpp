@@ -1,3 +1,4 @@
+#include "tests/support/casesource.h"
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 
@@ -24,8 +25,8 @@ constexpr std::string_view kUsage = "Usage: kelvane type src dest [format]\n"
 class DriverTest : public testing::Test {
 protected:
     DriverTest() {
-        Put("empty.brushes", kEmptySet);
-        Put("damaged.brushes", "TXT2\nZephArchiveVersion 194\nwrong 1\n");
+        Put("empty.brushes", emptySet);
+        Put("damaged.brushes", CurrentHeader(false) + "wrong 1\n");
     }
 
     void Put(const std::string& name, std::string_view bytes) { WriteBytes(folder.Path() / name, bytes); }
@@ -40,9 +41,8 @@ protected:
         EXPECT_EQ(result.reports, reports);
     }
 
-    static constexpr std::string_view kEmptySet =
-        "\xEF\xBB\xBFTXT2\r\nZephArchiveVersion 194\r\nonlyLoadOnDemand FALSE\r\nbrushCount 0\r\n";
-    static constexpr std::string_view kEmptyBinary = {"BIN2\n\xC2\0\0\0\0\0\0\0\0", 14};
+    const std::string emptySet = CurrentHeader(false) + "onlyLoadOnDemand FALSE\r\nbrushCount 0\r\n";
+    const std::string emptyBinary = CurrentHeader(true) + std::string(5, '\0');
 
     TempFolder folder;
 };
@@ -69,15 +69,15 @@ TEST_F(DriverTest, UsageAndUnknownTypes) {
 
 TEST_F(DriverTest, OnlyTxtSelectsText) {
     ExpectReports({"brushes", "empty.brushes", "dest", "txt", "ignored"}, "");
-    EXPECT_EQ(Get("dest"), kEmptySet);
+    EXPECT_EQ(Get("dest"), emptySet);
     for (const Arguments& format : {Arguments{}, {"bin"}, {"TXT"}, {"xyz"}, {""}}) {
         Arguments arguments = {"brushes", "empty.brushes", "dest"};
         arguments.insert(arguments.end(), format.begin(), format.end());
         ExpectReports(arguments, "");
-        EXPECT_EQ(Get("dest"), kEmptyBinary);
+        EXPECT_EQ(Get("dest"), emptyBinary);
     }
     ExpectReports({"brushes", "dest", "dest", "txt"}, "");
-    EXPECT_EQ(Get("dest"), kEmptySet) << "a file may be converted onto itself";
+    EXPECT_EQ(Get("dest"), emptySet) << "a file may be converted onto itself";
 }
 
 TEST_F(DriverTest, SourcesThatDoNotOpenEndTheProcess) {
@@ -95,10 +95,10 @@ TEST_F(DriverTest, SourcesThatDoNotOpenEndTheProcess) {
 TEST_F(DriverTest, PipesAreSources) {
     const std::string pipe = (folder.Path() / "pipe").string();
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    std::thread writer([&] { WriteBytes(pipe, kEmptySet); });
+    std::thread writer([&] { WriteBytes(pipe, emptySet); });
     ExpectReports({"brushes", "pipe", "dest"}, "");
     writer.join();
-    EXPECT_EQ(Get("dest"), kEmptyBinary);
+    EXPECT_EQ(Get("dest"), emptyBinary);
 }
 
 TEST_F(DriverTest, DestinationsThatFail) {
@@ -118,27 +118,27 @@ TEST_F(DriverTest, StatusIsNoWordOnTheContent) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "");
     EXPECT_NE(result.reports.find("Label: brushCount\n"), std::string::npos);
-    EXPECT_EQ(Get("dest"), kEmptySet);
+    EXPECT_EQ(Get("dest"), emptySet);
     Put("garbage", "neither form");
     ExpectReports(
         {"brushes", "garbage", "dest"},
         "Missing \n in garbage\n\nThis is a mostly harmless error message usually caused by forgetting to hit "
         "enter at the end of the last line of the file\n"
         "Could not detect if Archive File is Binary or Text: garbage\n");
-    EXPECT_EQ(Get("dest"), kEmptyBinary);
+    EXPECT_EQ(Get("dest"), emptyBinary);
 }
 
 TEST_F(DriverTest, NamesOfAnyBytesOpen) {
     const std::string odd = "S\xFC\xC3\xB6\xF0\x9F\x9A\x80%%\\\"";
-    Put(odd, kEmptySet);
+    Put(odd, emptySet);
     ExpectReports({"brushes", odd, odd + "2", "txt"}, "");
-    EXPECT_EQ(Get(odd + "2"), kEmptySet);
+    EXPECT_EQ(Get(odd + "2"), emptySet);
     EXPECT_EQ(Run({"brushes", odd, odd + "/x"}).reports, Unopened("S\xEF\xBF\xBD\xC3\xB6\xF0\x9F\x9A\x80%%\\\"/x"));
-    // Opens, and is cut in the name that the file keeps; the sets keep a cut name themselves.
+    // The file is opened, but the name in reports is cut. The name of a brush set is cut before it is opened.
     const std::string steps(300, '/');
     ExpectReports({"brushes", "empty.brushes", folder.Path().string() + steps + "dest"},
                   "assert! [GetLength( source ) < destination.m_BufferSize]\nassert! [! FAILED( hr )]\n");
-    EXPECT_EQ(Get("dest"), kEmptyBinary);
+    EXPECT_EQ(Get("dest"), emptyBinary);
     EXPECT_TRUE(Run({"brushes", folder.Path().string() + steps + "empty.brushes", "dest"}).EndedAbnormally());
 }
 
@@ -201,11 +201,11 @@ TEST_F(DriverTest, ALimitOfFileSizesIsLikeAFullDisk) {
     const ProcessResult result = RunConverter({"brushes", "empty.brushes", "dest"}, folder.Path(), Tracing::Off, [] {
         const rlimit tenBytes = {10, 10};
         setrlimit(RLIMIT_FSIZE, &tenBytes);
-        // The limit holds for standard error too, which is a file here.
+        // The limit applies to standard error too, which is a file here.
         dup2(open("/dev/null", O_WRONLY), 2);
     });
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(Get("dest"), kEmptyBinary.substr(0, 10));
+    EXPECT_EQ(Get("dest"), emptyBinary.substr(0, 10));
 }
 
 TEST_F(DriverTest, DebuggersSilenceChecksOnly) {

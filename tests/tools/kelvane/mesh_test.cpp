@@ -23,7 +23,7 @@ class MeshConversionTest : public testing::Test {
 protected:
     MeshConversionTest() { std::filesystem::create_directories(Folder()); }
 
-    // Two levels down, where the search for data files stays inside.
+    // Two levels down, so that the search for data files stays inside.
     std::filesystem::path Folder() const { return scratch.Path() / "tools" / "bin"; }
 
     ProcessResult Convert(const char* type, const char* source, const char* destination, const char* form) const {

@@ -1,5 +1,6 @@
 #include "fuzz/damage.h"
 #include "gs/entity/support/entitytype.h"
+#include "tests/support/casesource.h"
 #include "tests/support/tempfolder.h"
 #include "tests/tools/kelvanekit/mistakes.h"
 #include "tools/kelvane/contentconverter.h"
@@ -32,7 +33,7 @@ const std::vector<Sample>& Samples() {
         std::vector<Sample> result;
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(KELVANE_SAMPLES)) {
             if (const auto kind = ContentKindOfFile(entry.path().string()); entry.is_regular_file() && kind) {
-                result.push_back({entry.path().filename().string(), *kind, *ReadBytes(entry.path())});
+                result.push_back({entry.path().filename().string(), *kind, InCurrentVersion(*ReadBytes(entry.path()))});
             }
         }
         std::ranges::sort(result, {}, &Sample::name);
@@ -198,15 +199,20 @@ TEST(CheckTest, BinaryFilesAreChecked) {
 
 TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
     const auto check = [](std::string_view sample, std::string_view from, std::string_view to) {
-        return Shown(CheckContent(SampleNamed(sample).kind, Edited(sample, from, to)));
+        const std::string& bytes = SampleNamed(sample).bytes;
+        const auto line = 1 + std::count(bytes.begin(), bytes.begin() + static_cast<long>(bytes.find(from)), '\n');
+        const std::string shown = Shown(CheckContent(SampleNamed(sample).kind, Edited(sample, from, to)));
+        const std::string place = std::to_string(line) + ' ';
+        EXPECT_TRUE(shown.starts_with(place)) << shown;
+        return shown.substr(std::min(place.size(), shown.size()));
     };
-    EXPECT_EQ(check("signal-buoy.mesh", "Color 0", "Color ff0000ff"), "34 not-kept MeshData.Vertex[0].Color\n");
+    EXPECT_EQ(check("signal-buoy.mesh", "Color 0", "Color ff0000ff"), "not-kept MeshData.Vertex[0].Color\n");
     EXPECT_EQ(check("frigate_lancer.entity", "slotCount 6.000000", "slotCount 6.12345678"),
-              "59 lost-decimals slotCount\n");
-    EXPECT_EQ(check("frigate_lancer.entity", "Version 194", "Version 195"), "2 newer-version ZephArchiveVersion\n");
-    EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "296 not-kept ability:0\n");
+              "lost-decimals slotCount\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "Version 1", "Version 91"), "newer-version ZephArchiveVersion\n");
+    EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "not-kept ability:0\n");
     EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
-              "356 index-out-of-range MeshData.Triangle[0].iVertex0\n");
+              "index-out-of-range MeshData.Triangle[0].iVertex0\n");
 }
 
 TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {

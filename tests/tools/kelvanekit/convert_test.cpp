@@ -1,3 +1,4 @@
+#include "tests/support/casesource.h"
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 #include "tools/kelvanekit/convertplan.h"
@@ -55,8 +56,10 @@ class ConvertTest : public testing::Test {
 protected:
     ConvertTest() {
         fs::copy(KELVANE_SAMPLES, folder.Path() / "in", fs::copy_options::recursive);
-        WriteBytes(folder.Path() / "damaged.brushes", "TXT2\r\nZephArchiveVersion 194\r\nonlyLoadOnDemand maybe\r\n"
-                                                      "brushCount 0\r\n");
+        for (const auto& [name, bytes] : Tree("in")) {
+            Put("in/" + name, InCurrentVersion(bytes));
+        }
+        Put("damaged.brushes", CurrentHeader(false) + "onlyLoadOnDemand maybe\r\nbrushCount 0\r\n");
     }
 
     ProcessResult Run(Arguments arguments, void (*prepare)() = nullptr) {
@@ -127,7 +130,7 @@ TEST_F(ConvertTest, SourcesWithErrorsLeaveTheirDestinations) {
 }
 
 TEST_F(ConvertTest, ContentsThatEndTheConverterAreFindings) {
-    Put("huge.brushes", "TXT2\r\nZephArchiveVersion 194\r\nonlyLoadOnDemand FALSE\r\nbrushCount 2147483647\r\n");
+    Put("huge.brushes", CurrentHeader(false) + "onlyLoadOnDemand FALSE\r\nbrushCount 2147483647\r\n");
     Put(std::string(80, 'n') + ".entity", ReadBytes(folder.Path() / "in/entity/weapon_standard.entity").value());
     for (const std::string& name : {std::string("huge.brushes"), std::string(80, 'n') + ".entity"}) {
         const ProcessResult result = Run({"--lenient", "--to", "bin", "--format", "line", "--output", "out", name});

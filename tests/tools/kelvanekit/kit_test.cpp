@@ -1,3 +1,4 @@
+#include "tests/support/casesource.h"
 #include "tests/support/process.h"
 #include "tests/support/tempfolder.h"
 #include "tools/kelvanekit/command.h"
@@ -35,8 +36,12 @@ protected:
         return RunProgram("/usr/bin/script", {"-qec", command, "/dev/null"}, folder.Path()).output;
     }
 
-    static constexpr std::string_view kClean = "TXT2\nZephArchiveVersion 194\nonlyLoadOnDemand FALSE\nbrushCount 0\n";
-    static constexpr std::string_view kWrong = "TXT2\nZephArchiveVersion 194\nonlyLoadOnDemand true\nbrushCount 0 x\n";
+    void PutSample(const std::string& name, const std::string& sample) {
+        Put(name, InCurrentVersion(ReadBytes(KELVANE_SAMPLES "/" + sample).value()));
+    }
+
+    const std::string kClean = CurrentHeader(false) + "onlyLoadOnDemand FALSE\r\nbrushCount 0\r\n";
+    const std::string kWrong = CurrentHeader(false) + "onlyLoadOnDemand true\r\nbrushCount 0 x\r\n";
     static constexpr std::string_view kLines[] = {"a.brushes:3:18: error: ", "a.brushes:4:13: error: "};
 
     TempFolder folder;
@@ -151,7 +156,7 @@ TEST_F(KitTest, FindingsAreLimitedDisabledAndRaised) {
     EXPECT_EQ(limited.reports, "4 errors, 0 warnings in 2 files, of which 3 are shown\n");
     const ProcessResult disabled = Run({"check", "--disable", "bad-boolean", "--disable", "number-with-rest", "."});
     EXPECT_EQ(disabled.status, 0) << disabled.output;
-    Put("c.brushes", "TXT2\nZephArchiveVersion 195\nonlyLoadOnDemand FALSE\nbrushCount 0\n");
+    Put("c.brushes", "TXT2\nZephArchiveVersion 9999\nonlyLoadOnDemand FALSE\nbrushCount 0\n");
     EXPECT_EQ(Run({"check", "c.brushes"}).reports, "0 errors, 1 warning in 1 file\n");
     EXPECT_EQ(Run({"check", "--warnings-as-errors", "c.brushes"}).reports, "1 error, 0 warnings in 1 file\n");
 }
@@ -186,8 +191,8 @@ TEST_F(KitTest, ColorsAreForTerminals) {
 }
 
 TEST_F(KitTest, NamesAreLookedUp) {
-    Put("c/squad.entity", ReadBytes(KELVANE_SAMPLES "/entity/squad_thornwing.entity").value());
-    Put("c/FighterSwallowtail.entity", ReadBytes(KELVANE_SAMPLES "/entity/fighter_swallowtail.entity").value());
+    PutSample("c/squad.entity", "entity/squad_thornwing.entity");
+    PutSample("c/FighterSwallowtail.entity", "entity/fighter_swallowtail.entity");
     EXPECT_EQ(Run({"check", "c/squad.entity"}).output, "");
     const auto check = [&] { return Run({"check", "--root", "c", "--format", "line", "c/squad.entity"}).output; };
     EXPECT_EQ(check().find("`FighterSwallowtail`"), std::string::npos) << check();
@@ -198,8 +203,7 @@ TEST_F(KitTest, NamesAreLookedUp) {
 }
 
 TEST_F(KitTest, MeshesAndIdsOfListsAreLookedUp) {
-    const std::string frigate = ReadBytes(KELVANE_SAMPLES "/entity/frigate_lancer.entity").value();
-    Put("c/frigate.entity", frigate);
+    PutSample("c/frigate.entity", "entity/frigate_lancer.entity");
     Put("c/meshes/Shield_Lancer.mesh", "");
     const auto check = [&](const std::string& option, const std::string& value) {
         return Run({"check", option, value, "--format", "line", "c/frigate.entity"}).output;

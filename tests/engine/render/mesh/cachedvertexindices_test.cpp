@@ -20,7 +20,7 @@ using Indices = std::vector<std::int32_t>;
 
 class CachedVertexIndicesTest : public EngineTest {
 protected:
-    // A mesh of vertices that all face one way.
+    // A mesh of vertices with the same normal.
     void Fill(const std::vector<Vector3>& positions, const Vector3& normal) {
         Fill(static_cast<int>(positions.size()));
         for (int i = 0; i < data.vertices.Size(); ++i) {
@@ -36,7 +36,7 @@ protected:
         return {list.begin(), list.end()};
     }
 
-    // The lists that a lone vertex with this normal is in.
+    // The lists of a single vertex with this normal.
     std::string Facing(const Vector3& normal) {
         Fill({{}}, normal);
         std::string names;
@@ -109,7 +109,8 @@ TEST_F(CachedVertexIndicesTest, KeysThatAreNotNumbersComeLast) {
 
 TEST_F(CachedVertexIndicesTest, LeavesOutWhatIsTooCloseToTheLastOne) {
     data.BoundingRadius = 100.0f;
-    // From z = 99 down: 2 is far from 0, 3 close to 2, 4 close to 3 only, 1 close to 4, and 0 far from all.
+    // From z = 99 downward: 2 is far from 0, 3 is close to 2, 4 is close only to 3, 1 is close to 4, and 0 is far from
+    // all.
     Fill({{0, 0, 0}, {0, 0, 96.9f}, {0, 0, 99}, {0, 0, 98.25f}, {0, 0, 97.75f}}, kUp);
     EXPECT_EQ(List(Up), (Indices{2, 4, 0}));
 }
@@ -120,7 +121,7 @@ TEST_F(CachedVertexIndicesTest, TheWalkBeginsAtVertexZeroListedOrNot) {
     EXPECT_EQ(List(Up), (Indices{0, 3}));
     data.vertices[0].normal = kFront;
     EXPECT_EQ(List(Up), (Indices{3}));
-    // Behind another vertex, vertex 0 has to keep its distance like any other.
+    // After another vertex, vertex 0 must keep its distance like any other.
     Fill({{0, 0, 50}, {0, 5, 51}, {0, 5, 50.5f}, {0, 0.5f, 50}}, kUp);
     EXPECT_EQ(List(Up), (Indices{1, 0}));
     Fill({{0, 0, 49.5f}, {0, 5, 51}, {0, 0.5f, 50}}, kUp);

@@ -1,4 +1,6 @@
 #include "engine/render/mesh/meshsystem.h"
+
+#include "engine/archive/archiveversion.h"
 #include "tests/support/enginetest.h"
 
 namespace Vorn {
@@ -31,7 +33,7 @@ TEST_F(MeshSystemTest, KeepsOneMeshForEachFile) {
     EXPECT_NE(first, second);
     EXPECT_EQ(first->GetRefCount(), 2);
     EXPECT_EQ(first->data.BoundingRadius, 12.0f);
-    EXPECT_EQ(first->data.version, 194);
+    EXPECT_EQ(first->data.version, kArchiveVersion);
     EXPECT_EQ(Utf8(second->data.fileName.View()), Utf8(buoy));
     Meshes().ReleaseMesh(first);
     Meshes().ReleaseMesh(first);
@@ -39,6 +41,20 @@ TEST_F(MeshSystemTest, KeepsOneMeshForEachFile) {
     EXPECT_EQ(Meshes().MeshCount(), 2);
     Meshes().FreeAll();
     EXPECT_EQ(Meshes().MeshCount(), 0);
+}
+
+TEST_F(MeshSystemTest, MarksTheLogoOfATeam) {
+    Mesh::Data data;
+    data.materials.Resize(2);
+    data.materials[0].teamColorTextureFileName.Assign(u"Hull.dds");
+    data.materials[1].teamColorTextureFileName.Assign(u"art\\TeamLogo.dds");
+    FileArchive* archive = core->fileArchiveSystem.OpenForWrite(NameIn("x.mesh"), false, FileArchiveType::Text);
+    archive->Write(Mesh::Data::kLabel, data);
+    core->fileArchiveSystem.Close(archive);
+    Mesh* mesh = Meshes().GetMesh(NameIn("x.mesh"), {});
+    EXPECT_FALSE(mesh->data.materials[0].isTeamLogo);
+    EXPECT_TRUE(mesh->data.materials[1].isTeamLogo);
+    Meshes().ReleaseMesh(mesh);
 }
 
 TEST_F(MeshSystemTest, ReportsHoldersThatForgotAMeshOrGaveItBackTwice) {

@@ -1,7 +1,7 @@
 #include "gs/render/particle/particlesimulationdefinition.h"
 
 #include "engine/core/abnormalend.h"
-#include "tests/support/enginetest.h"
+#include "tests/support/archivetest.h"
 
 namespace Vorn {
 
@@ -11,7 +11,7 @@ constexpr auto kPoint = static_cast<ParticleEmitter::Type>(0);
 constexpr auto kRing = static_cast<ParticleEmitter::Type>(2);
 constexpr auto kDrag = static_cast<ParticleAffector::Type>(1);
 
-class ParticleSimulationDefinitionTest : public EngineTest {
+class ParticleSimulationDefinitionTest : public ArchiveTest {
 protected:
     ParticleSimulationDefinition definition;
 };
@@ -29,6 +29,18 @@ TEST_F(ParticleSimulationDefinitionTest, AffectorsFollowTheEmittersTheyName) {
     EXPECT_FALSE(affector.RemoveAttachedEmitter(u"Ring"));
     EXPECT_FALSE(affector.IsAttachedTo(1));
     EXPECT_EQ(affector.FindAttachedEmitter(u"ring"), 0);
+}
+
+TEST_F(ParticleSimulationDefinitionTest, AffectorsFollowTheEmittersOfAFile) {
+    definition.AddEmitter(kPoint);
+    definition.AddEmitter(kRing);
+    definition.AddAffector(kDrag).AddAttachedEmitter(u"Ring");
+    const std::string written = Written(FileArchiveType::Text, [&](FieldIo& io) { definition.Fields(io); });
+    ParticleSimulationDefinition read;
+    Read(std::string(kTextHeader) + written, [&](FieldIo& io) { read.Fields(io); });
+    ASSERT_EQ(read.GetAffectorCount(), 1);
+    EXPECT_FALSE(read.GetAffector(0).IsAttachedTo(0));
+    EXPECT_TRUE(read.GetAffector(0).IsAttachedTo(1));
 }
 
 TEST_F(ParticleSimulationDefinitionTest, RenamingAnEmitterMovesItToTheEndOfTheLists) {
@@ -68,7 +80,7 @@ TEST_F(ParticleSimulationDefinitionTest, AnchorsChooseTheQuad) {
     EXPECT_EQ(TakeReports(), Reports{Check("false")});
 }
 
-// Stands for the end of the process.
+// Thrown instead of ending the process.
 struct End {};
 
 class CaughtEnd final : public EndGuard {

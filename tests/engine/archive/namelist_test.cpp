@@ -1,4 +1,4 @@
-#include "gs/player/playersystem.h"
+#include "engine/archive/namelist.h"
 
 #include <gtest/gtest.h>
 

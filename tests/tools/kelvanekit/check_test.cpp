@@ -205,6 +205,8 @@ TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
               "59 lost-decimals slotCount\n");
     EXPECT_EQ(check("frigate_lancer.entity", "Version 194", "Version 195"), "2 newer-version ZephArchiveVersion\n");
     EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "296 not-kept ability:0\n");
+    EXPECT_EQ(check("signal-buoy.mesh", "TXT2", "TXT2" + std::string(250, ' ')), "");
+    EXPECT_EQ(check("signal-buoy.mesh", "TXT2", "TXT2" + std::string(251, ' ')), "1 line-too-long \n");
     EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
               "356 index-out-of-range MeshData.Triangle[0].iVertex0\n");
 }

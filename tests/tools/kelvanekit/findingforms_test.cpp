@@ -1,9 +1,9 @@
 #include "tools/kelvanekit/findingforms.h"
 
-#include "tools/kelvanekit/findingreport.h"
-#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/columns.h"
+#include "tools/kelvanekit/findingreport.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,40 +1,49 @@
 #include "tools/kelvanekit/checkfiles.h"
 
-#include "tools/kelvanekit/inputfile.h"
 #include "tools/kelvanekit/orderedjobs.h"
 #include "tools/kelvanekit/progressbar.h"
 
+#include <functional>
 #include <new>
 #include <stdexcept>
 
 namespace Vorn {
 
-namespace {
-
-struct Checked {
-    std::string problem;
-    RenderedFindings findings;
-};
-
-Checked CheckFile(const SourceFile& file, InputFile& input, const ContentChecker& checker,
-                  const FindingReport& report) {
-    Checked checked;
+FileResult WorkOn(const SourceFile& file, InputFile& input, const std::function<void(FileResult& result)>& work) {
+    FileResult result;
     try {
         const std::string reason = file.isStandardInput ? input.ReadStandardInput() : input.Read(file.name);
         if (reason.empty()) {
-            checked.findings = report.Render(file.name, input.Bytes(), checker(file.kind, input.Bytes()));
+            work(result);
         } else {
-            checked.problem = file.name + ": " + reason;
+            result.problem = file.name + ": " + reason;
         }
     } catch (const std::bad_alloc&) {
-        checked.problem = file.name + ": there is not enough memory for it";
+        result.problem = file.name + ": there is not enough memory for it";
     } catch (const std::length_error&) {
-        checked.problem = file.name + ": it is too large";
+        result.problem = file.name + ": it is too large";
     }
-    return checked;
+    return result;
 }
 
-} // namespace
+void WorkOnAll(const std::vector<SourceFile>& files, unsigned jobs, FindingReport& report, OutputStream& errors,
+               const std::function<FileResult(std::size_t index, unsigned worker)>& work,
+               const std::function<bool(std::size_t index, const FileResult& result)>& take) {
+    ProgressBar progress(errors, files.size());
+    RunInOrder(files.size(), jobs, std::cref(work), [&](std::size_t index, FileResult result) {
+        if (result.findings.Count() > 0 || !result.problem.empty()) {
+            progress.Clear();
+        }
+        if (!result.problem.empty()) {
+            report.AddProblem(std::move(result.problem));
+        }
+        const bool isWanted = take(index, result);
+        const bool isRead = report.Add(result.findings);
+        progress.Show(index + 1);
+        return isRead && isWanted;
+    });
+    progress.Clear();
+}
 
 int CheckFiles(const SourceOptions& sourceOptions, unsigned jobs, const ContentChecker& checker, FindingReport& report,
                OutputStream& errors) {
@@ -44,22 +53,14 @@ int CheckFiles(const SourceOptions& sourceOptions, unsigned jobs, const ContentC
     }
     const std::vector<SourceFile>& files = sources.files;
     std::vector<InputFile> inputs(jobs);
-    ProgressBar progress(errors, files.size());
-    RunInOrder(
-        files.size(), jobs,
-        [&](std::size_t index, unsigned worker) { return CheckFile(files[index], inputs[worker], checker, report); },
-        [&](std::size_t index, Checked checked) {
-            if (checked.findings.Count() > 0 || !checked.problem.empty()) {
-                progress.Clear();
-            }
-            if (!checked.problem.empty()) {
-                report.AddProblem(std::move(checked.problem));
-            }
-            const bool isRead = report.Add(checked.findings);
-            progress.Show(index + 1);
-            return isRead;
+    const auto check = [&](std::size_t index, unsigned worker) {
+        InputFile& input = inputs[worker];
+        return WorkOn(files[index], input, [&](FileResult& result) {
+            result.findings =
+                report.Render(files[index].name, input.Bytes(), checker(files[index].kind, input.Bytes()));
         });
-    progress.Clear();
+    };
+    WorkOnAll(files, jobs, report, errors, check, [](std::size_t, const FileResult&) { return true; });
     return report.Finish(files.size());
 }
 

@@ -133,10 +133,6 @@ constexpr DumpForm kForms[] = {
     {"json", BeginJson, PutJson, PutJsonFinding},
 };
 
-std::int64_t SpotOf(const Finding& finding) {
-    return finding.place.line > 0 ? finding.place.line - 1 : finding.place.offset;
-}
-
 } // namespace
 
 std::span<const DumpForm> DumpForms() {

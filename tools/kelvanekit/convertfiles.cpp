@@ -3,25 +3,14 @@
 #include "tools/kelvane/contentconverter.h"
 #include "tools/kelvanekit/convertplan.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
-#include "tools/kelvanekit/inputfile.h"
 #include "tools/kelvanekit/interruption.h"
-#include "tools/kelvanekit/orderedjobs.h"
-#include "tools/kelvanekit/progressbar.h"
 
+#include <algorithm>
 #include <deque>
-#include <new>
-#include <stdexcept>
 
 namespace Vorn {
 
 namespace {
-
-struct Converted {
-    // Why the file could not be read or written.
-    std::string problem;
-    RenderedFindings findings;
-    bool isDone = false;
-};
 
 // A finding about a whole file.
 Finding FileFinding(const FindingCode* code, std::string_view bytes, std::string message) {
@@ -42,27 +31,14 @@ public:
     FileConverter(const ConvertOptions& _options, const ContentChecker& _checker, const FindingReport& _report)
         : options(_options), checker(_checker), report(_report), writer(options.destination) {}
 
-    Converted Convert(const SourceFile& file, const std::string& destination) {
-        Converted converted;
-        try {
-            const std::string reason = file.isStandardInput ? input.ReadStandardInput() : input.Read(file.name);
-            if (reason.empty()) {
-                ConvertInput(file, destination, converted);
-            } else {
-                converted.problem = file.name + ": " + reason;
-            }
-        } catch (const std::bad_alloc&) {
-            converted.problem = file.name + ": there is not enough memory for it";
-        } catch (const std::length_error&) {
-            converted.problem = file.name + ": it is too large";
-        }
-        return converted;
+    FileResult Convert(const SourceFile& file, const std::string& destination) {
+        return WorkOn(file, input, [&](FileResult& converted) { ConvertInput(file, destination, converted); });
     }
 
     std::string Finish() { return writer.Finish(); }
 
 private:
-    void ConvertInput(const SourceFile& file, const std::string& destination, Converted& converted) {
+    void ConvertInput(const SourceFile& file, const std::string& destination, FileResult& converted) {
         Findings findings = checker(file.kind, input.Bytes());
         converted.findings = report.Render(file.name, input.Bytes(), findings);
         if (converted.findings.HasErrors() && !options.isLenient) {
@@ -120,26 +96,15 @@ std::vector<std::string> RunPlan(const std::vector<SourceFile>& files, const Con
         converters.emplace_back(options, checker, report);
     }
     std::vector<std::string> failed;
-    ProgressBar progress(errors, files.size());
-    RunInOrder(
-        files.size(), options.jobs,
-        [&](std::size_t index, unsigned worker) {
-            return converters[worker].Convert(files[index], plan.destinations[index]);
-        },
-        [&](std::size_t index, Converted converted) {
-            if (converted.findings.Count() > 0 || !converted.problem.empty()) {
-                progress.Clear();
-            }
-            if (!converted.problem.empty()) {
-                report.AddProblem(std::move(converted.problem));
-            }
-            if (!converted.isDone) {
-                failed.push_back(files[index].name);
-            }
-            const bool isRead = report.Add(converted.findings);
-            progress.Show(index + 1);
-            return isRead && !Interruption::IsWanted();
-        });
+    const auto convert = [&](std::size_t index, unsigned worker) {
+        return converters[worker].Convert(files[index], plan.destinations[index]);
+    };
+    WorkOnAll(files, options.jobs, report, errors, convert, [&](std::size_t index, const FileResult& converted) {
+        if (!converted.isDone) {
+            failed.push_back(files[index].name);
+        }
+        return !Interruption::IsWanted();
+    });
     for (FileConverter& converter : converters) {
         if (std::string problem = converter.Finish(); !problem.empty()) {
             report.AddProblem(std::move(problem));

@@ -1,6 +1,6 @@
 #include "tools/kelvanekit/findingforms.h"
+#include "tools/kelvanekit/columns.h"
 
-#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/visibletext.h"
 
 #include <algorithm>

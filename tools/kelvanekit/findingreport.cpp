@@ -1,9 +1,10 @@
 #include "tools/kelvanekit/findingreport.h"
 
-#include "tools/kelvanekit/linefinder.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/visibletext.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Vorn {
 
@@ -25,7 +26,7 @@ FindingReport::FindingReport(const ReportOptions& _options, OutputStream& _outpu
 
 RenderedFindings FindingReport::Render(std::string_view name, std::string_view bytes, const Findings& findings) const {
     RenderedFindings rendered;
-    LineFinder lines(bytes);
+    std::optional<SourceText> text;
     for (const Finding& finding : findings) {
         if (std::ranges::find(options.disabled, finding.code) != options.disabled.end()) {
             continue;
@@ -34,7 +35,11 @@ RenderedFindings FindingReport::Render(std::string_view name, std::string_view b
         const Severity severity = isRaised ? Severity::Error : finding.code->severity;
         ++rendered.counts[static_cast<std::size_t>(severity)];
         if (rendered.ends.size() < options.maxFindings) {
-            options.form->print(rendered.text, {finding, severity, name, lines.Line(finding.place.line)}, hasColors);
+            if (finding.place.line > 0 && !text) {
+                text.emplace(bytes);
+            }
+            const std::string_view line = text ? text->Line(finding.place.line - 1) : std::string_view();
+            options.form->print(rendered.text, {finding, severity, name, line}, hasColors);
             rendered.ends.push_back(rendered.text.size());
         }
     }

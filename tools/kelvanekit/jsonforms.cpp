@@ -1,7 +1,7 @@
+#include "tools/kelvanekit/columns.h"
 #include "tools/kelvanekit/filename.h"
 #include "tools/kelvanekit/findingforms.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
-#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/version.h"
 #include "tools/kelvanekit/visibletext.h"
 

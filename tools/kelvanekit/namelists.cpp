@@ -9,8 +9,8 @@
 #include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/check/knownnames.h"
 #include "tools/kelvanekit/check/readscope.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/inputfile.h"
-#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/sources.h"
 
 #include <algorithm>
@@ -33,16 +33,10 @@ private:
     const std::u16string name;
 };
 
-class DroppedReports final : public ReportHandler {
-public:
-    void Handle(const char*, int, std::u16string_view, bool) override {}
-};
-
 // What is wrong with a file is for its own check to say.
 template <class Action>
 void Quietly(Action action) {
-    DroppedReports dropped;
-    const HandlerScope scope(&dropped);
+    const DroppedReports reports;
     const CatchableEnd end;
     try {
         action();
@@ -130,12 +124,9 @@ void AddList(const std::string& fileName, NameKind kind, KnownNames& names, Find
         return;
     }
     names.Add(kind, {});
-    LineFinder lines(input.Bytes());
-    for (std::int32_t number = 1; lines.Has(number); ++number) {
-        std::string_view line = lines.Line(number);
-        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-        line = line.substr(0, line.find_last_not_of(" \t") + 1);
-        names.Add(kind, NameFromBytes(line));
+    const SourceText text(input.Bytes());
+    for (std::int32_t line = 0; line < text.LineCount(); ++line) {
+        names.Add(kind, ToUnits(Trimmed(text.Line(line))));
     }
 }
 

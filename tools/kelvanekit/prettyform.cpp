@@ -1,5 +1,5 @@
+#include "tools/kelvanekit/columns.h"
 #include "tools/kelvanekit/findingforms.h"
-#include "tools/kelvanekit/linefinder.h"
 #include "tools/kelvanekit/visibletext.h"
 
 #include <algorithm>

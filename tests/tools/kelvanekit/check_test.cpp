@@ -211,6 +211,9 @@ TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
               "lost-decimals slotCount\n");
     EXPECT_EQ(check("frigate_lancer.entity", "Version 1", "Version 91"), "newer-version ZephArchiveVersion\n");
     EXPECT_EQ(check("frigate_lancer.entity", "AbilityOverchargedLance", "Invalid"), "not-kept ability:0\n");
+    EXPECT_EQ(check("signal-buoy.mesh", "TXT2", "TXT2" + std::string(251, ' ')), "line-too-long \n");
+    EXPECT_EQ(
+        Shown(CheckContent(ContentKind::Mesh, Edited("signal-buoy.mesh", "TXT2", "TXT2" + std::string(250, ' ')))), "");
     EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
               "index-out-of-range MeshData.Triangle[0].iVertex0\n");
 }

@@ -1,8 +1,9 @@
 #include "tools/kelvanekit/findingforms.h"
 
+#include "tools/kelvanekit/check/sourcetext.h"
+#include "tools/kelvanekit/columns.h"
 #include "tools/kelvanekit/findingreport.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
-#include "tools/kelvanekit/linefinder.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -40,9 +41,9 @@ Finding BinaryFinding() {
 std::string Printed(std::string_view form, const Findings& findings, std::string_view name = "a b/l\xC3\xA4mp.entity",
                     std::string_view text = kText) {
     std::string out;
-    LineFinder lines(text);
+    const SourceText lines(text);
     for (const Finding& finding : findings) {
-        FindForm(form)->print(out, {finding, finding.code->severity, name, lines.Line(finding.place.line)}, false);
+        FindForm(form)->print(out, {finding, finding.code->severity, name, lines.Line(finding.place.line - 1)}, false);
     }
     return out;
 }
@@ -204,7 +205,7 @@ TEST(FindingFormsTest, FindingsAreLeftOutRaisedAndCounted) {
     EXPECT_EQ(rendered.ends.back(), rendered.text.size());
 }
 
-TEST(LineFinderTest, LinesOfAllEncodingsInAnyOrder) {
+TEST(SourceTextTest, LinesOfAllEncodingsInAnyOrder) {
     const std::string_view utf8 = "\xEF\xBB\xBF"
                                   "a\r\n\n\xE4\xBD\xA0 b\rc\nlast";
     std::string little;
@@ -217,20 +218,20 @@ TEST(LineFinderTest, LinesOfAllEncodingsInAnyOrder) {
         big += {high, low};
     }
     for (const std::string_view text : {utf8, std::string_view(little), std::string_view(big)}) {
-        LineFinder lines(text);
+        const SourceText lines(text);
         for (const int number : {1, 4, 3, 2, 1, 4}) {
             constexpr std::string_view kLines[] = {"a", "", "\xE4\xBD\xA0 b\rc", "last"};
-            EXPECT_EQ(lines.Line(number), kLines[number - 1]) << number;
+            EXPECT_EQ(lines.Line(number - 1), kLines[number - 1]) << number;
         }
-        EXPECT_EQ(lines.Line(0), "");
-        EXPECT_EQ(lines.Line(5), "");
-        EXPECT_EQ(lines.Line(1), "a");
+        EXPECT_EQ(lines.Line(-1), "");
+        EXPECT_EQ(lines.Line(4), "");
+        EXPECT_EQ(lines.LineCount(), 4);
     }
-    EXPECT_EQ(LineFinder("").Line(1), "");
-    EXPECT_EQ(LineFinder("\xFF\xFE"
+    EXPECT_EQ(SourceText("").LineCount(), 0);
+    EXPECT_EQ(SourceText("\xFF\xFE"
                          "a")
-                  .Line(1),
-              "");
+                  .Line(0),
+              "\xFF");
     EXPECT_EQ(CharacterColumn("\xF0\x9F\x98\x80\xFFx", 5), 3);
     EXPECT_EQ(UnitColumn("\xF0\x9F\x98\x80\xFFx", 5), 4);
     EXPECT_EQ(CharacterColumn("ab", 99), 3);

@@ -185,6 +185,7 @@ TEST_F(KitTest, ColorsAreForTerminals) {
     EXPECT_NE(Run({"check", "--color", "always", "a.brushes"}).output.find(color), std::string::npos);
     EXPECT_NE(RunAtTerminal("TERM=xterm " + check).find(color), std::string::npos);
     EXPECT_EQ(RunAtTerminal("TERM=xterm NO_COLOR=1 " + check).find(color), std::string::npos);
+    EXPECT_NE(RunAtTerminal("TERM=xterm NO_COLOR=1 " + check + " --color always").find(color), std::string::npos);
     EXPECT_EQ(RunAtTerminal("TERM=dumb " + check).find(color), std::string::npos);
     EXPECT_EQ(RunAtTerminal("TERM=xterm " + check + " --color never").find(color), std::string::npos);
     EXPECT_EQ(RunAtTerminal("TERM=xterm " + check + " --format json").find(color), std::string::npos);
@@ -200,6 +201,14 @@ TEST_F(KitTest, NamesAreLookedUp) {
     EXPECT_NE(check().find("`FighterSwallowtail` (did you mean `FighterSwallowtai`?) [unresolved-name]"),
               std::string::npos)
         << check();
+    // A frigate by the name of the fighter.
+    Put("c/FighterSwallowtail.entity", ReadBytes(KELVANE_SAMPLES "/entity/frigate_lancer.entity").value());
+    EXPECT_NE(check().find("of the class `Frigate`, and the key wants `Fighter`"), std::string::npos) << check();
+    const Arguments convert = {"convert", "--to", "bin", "--output", "out", "c/squad.entity"};
+    EXPECT_EQ(Run(convert).status, 0);
+    Arguments strict = convert;
+    strict.insert(strict.end(), {"--root", "c"});
+    EXPECT_EQ(Run(strict).status, 1);
 }
 
 TEST_F(KitTest, MeshesAndIdsOfListsAreLookedUp) {

@@ -241,10 +241,14 @@ std::int64_t SpotOf(const AskedField& field) {
     return field.line != kNone ? field.line : field.offset;
 }
 
+std::int64_t SpotOf(const Finding& finding) {
+    return finding.place.line > 0 ? finding.place.line - 1 : finding.place.offset;
+}
+
 std::set<std::int64_t> SpotsOf(const Findings& findings) {
     std::set<std::int64_t> spots;
     for (const Finding& finding : findings) {
-        spots.insert(finding.place.line > 0 ? finding.place.line - 1 : finding.place.offset);
+        spots.insert(SpotOf(finding));
     }
     return spots;
 }

@@ -6,8 +6,9 @@
 
 namespace Vorn {
 
-// The line or the byte of a field, and those that have findings.
+// The line or the byte of a field and of a finding, and those of many.
 std::int64_t SpotOf(const AskedField& field);
+std::int64_t SpotOf(const Finding& finding);
 std::set<std::int64_t> SpotsOf(const Findings& findings);
 
 // What can be found once a content is read: each adds to the findings that the reader noted.

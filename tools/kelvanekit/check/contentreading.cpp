@@ -114,6 +114,10 @@ Findings ContentReading::TakeFindings() {
 void ContentReading::ReadHeader() {
     const std::string_view first = FirstLine(text->Start());
     header.firstLine = 1;
+    if (first.size() + 1 >= kHeaderLineCapacity) {
+        Add(Code("line-too-long"), 0,
+            "the first line has " + std::to_string(first.size()) + " bytes: the rest of it counts as another line");
+    }
     if (IsLabel(Trimmed(first), kTextHeader)) {
         return;
     }

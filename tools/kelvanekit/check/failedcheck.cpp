@@ -12,14 +12,6 @@ bool IsNamePart(char byte) {
     return byte == '_' || (byte >= '0' && byte <= '9') || (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
 }
 
-std::string Lowered(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(result, result.begin(), [](char byte) {
-        return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
-    });
-    return result;
-}
-
 std::string_view WithoutPrefix(std::string_view name) {
     return name.starts_with("m_") ? name.substr(2) : name;
 }

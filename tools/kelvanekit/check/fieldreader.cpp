@@ -25,11 +25,6 @@ std::int32_t RowOf(std::u16string_view text, const EnumTable& table) {
     return row == rows.end() ? kInvalidEnum : static_cast<std::int32_t>(row - rows.begin());
 }
 
-bool EqualsButCase(std::u16string_view left, std::u16string_view right) {
-    const auto lower = [](char16_t unit) { return unit >= u'A' && unit <= u'Z' ? unit + 32 : unit; };
-    return std::ranges::equal(left, right, {}, lower, lower);
-}
-
 std::string AllowedTexts(const EnumTable& table) {
     std::string texts = "the texts are ";
     const auto count = static_cast<std::size_t>(table.rowCount);
@@ -208,7 +203,7 @@ void FieldReader::NoteChoice(std::u16string_view given, const EnumTable& table, 
     const FindingCode* code = isType ? Code("wrong-type") : Code("wrong-choice");
     std::string message = "the keys that follow are not those of " + Quoted(given);
     if (!isKnown) {
-        code = EqualsButCase(given, meant) ? Code("wrong-case-text") : Code("unknown-text");
+        code = Lowered(ToUtf8(given)) == Lowered(ToUtf8(meant)) ? Code("wrong-case-text") : Code("unknown-text");
         message = Quoted(given) + " is no text of this key: it becomes `Invalid`";
     }
     Finding& finding = Add(code, LastAsk(), std::move(message));

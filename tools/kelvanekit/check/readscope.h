@@ -27,4 +27,13 @@ private:
     ReportHandler* previous;
 };
 
+// Drops all reports of this thread for a while.
+class DroppedReports final : public ReportHandler {
+public:
+    void Handle(const char*, int, std::u16string_view, bool) override {}
+
+private:
+    const HandlerScope scope{this};
+};
+
 } // namespace Vorn

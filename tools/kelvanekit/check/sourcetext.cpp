@@ -5,6 +5,8 @@
 #include "engine/string/scan.h"
 #include "engine/string/utf8.h"
 
+#include <algorithm>
+
 namespace Vorn {
 
 namespace {
@@ -104,6 +106,14 @@ std::string_view KeyOf(std::string_view line) {
         ++length;
     }
     return line.substr(0, length);
+}
+
+std::string Lowered(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), [](char byte) {
+        return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+    });
+    return result;
 }
 
 std::string_view Trimmed(std::string_view text) {

@@ -49,6 +49,9 @@ std::int32_t IndentationOf(std::string_view line);
 // The text up to the next white space behind the indentation.
 std::string_view KeyOf(std::string_view line);
 
+// A text with its capitals as small letters.
+std::string Lowered(std::string_view text);
+
 // A text without the white space at its ends.
 std::string_view Trimmed(std::string_view text);
 

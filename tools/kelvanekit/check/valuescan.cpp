@@ -17,16 +17,6 @@ bool IsDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
 
-char Lower(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
-}
-
-std::string Lowered(std::string_view text) {
-    std::string result(text);
-    std::ranges::transform(result, result.begin(), Lower);
-    return result;
-}
-
 std::size_t DigitsAt(std::string_view text, std::size_t place) {
     std::size_t count = 0;
     while (place + count < text.size() && IsDigit(text[place + count])) {
@@ -48,7 +38,7 @@ std::size_t DecimalLength(std::string_view text) {
     if (digits == 0) {
         return 0;
     }
-    if (end < text.size() && Lower(text[end]) == 'e') {
+    if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
         std::size_t exponent = end + 1;
         exponent += exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+') ? 1 : 0;
         if (const std::size_t count = DigitsAt(text, exponent); count > 0) {

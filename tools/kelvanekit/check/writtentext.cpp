@@ -30,15 +30,6 @@ private:
     std::string& bytes;
 };
 
-class DroppedReports final : public ReportHandler {
-public:
-    void Handle(const char*, int, std::u16string_view, bool) override {}
-};
-
-char LowerHex(char byte) {
-    return byte >= 'A' && byte <= 'F' ? static_cast<char>(byte - 'A' + 'a') : byte;
-}
-
 // Takes the next number or mark of a value.
 std::string_view TakeToken(std::string_view& text) {
     text = Trimmed(text);
@@ -59,7 +50,7 @@ std::string_view WithoutZeros(std::string_view digits) {
 }
 
 bool IsSameToken(std::string_view left, std::string_view right) {
-    return left == right || std::ranges::equal(WithoutZeros(left), WithoutZeros(right), {}, LowerHex, LowerHex) ||
+    return left == right || Lowered(WithoutZeros(left)) == Lowered(WithoutZeros(right)) ||
            (right.find('.') != std::string_view::npos && SameDecimal(left, right));
 }
 
@@ -121,8 +112,7 @@ std::string_view KeptValues::At(std::int32_t number) {
 std::string WriteContent(LoadedContent& content, FileArchiveType form, std::size_t expectedSize) {
     WrittenFile written(form, expectedSize);
     // The checks of records while they are written repeat those of reading.
-    DroppedReports reports;
-    const HandlerScope scope(&reports);
+    const DroppedReports reports;
     content.Write(written.GetArchive());
     return written.Finish();
 }

@@ -47,7 +47,7 @@ std::vector<ContentForm> ContentForms() {
         ContentForm form = {row.kind, {}, {}};
         const std::uint64_t place =
             Try(form, {}, DescribingArchive::kFilePlace, ListAnswer::Empty).value().fields.front().place;
-        for (std::int32_t type = 0; type < kEntityTypeCount; ++type) {
+        for (std::int32_t type = 0; type < kEntityTypeTable.rowCount; ++type) {
             const EntityTypeRow* entityType = FindEntityType(static_cast<EntityType>(type));
             if (entityType->make != nullptr) {
                 forms.push_back({row.kind, ToUtf8(entityType->text), {{place, type}}});

@@ -8,6 +8,7 @@ CommandRun DeclareDiff(CLI::App& app);
 CommandRun DeclareDump(CLI::App& app);
 CommandRun DeclareKeys(CLI::App& app);
 CommandRun DeclareNew(CLI::App& app);
+CommandRun DeclareLsp(CLI::App& app);
 
 namespace {
 
@@ -18,6 +19,7 @@ constexpr Command kCommands[] = {
     {"diff", "Show the differences of two content files by their keys", DeclareDiff},
     {"keys", "Show the reference of all keys of content files", DeclareKeys},
     {"new", "Print a new content file with the default of each key", DeclareNew},
+    {"lsp", "Serve an editor: the Language Server Protocol over standard input and output", DeclareLsp},
 };
 
 } // namespace

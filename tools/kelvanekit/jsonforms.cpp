@@ -1,5 +1,6 @@
 #include "tools/kelvanekit/columns.h"
 #include "tools/kelvanekit/filename.h"
+#include "tools/kelvanekit/fileuri.h"
 #include "tools/kelvanekit/findingforms.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/version.h"
@@ -24,25 +25,10 @@ Json TextMessage(std::string_view text) {
     return {{"text", WellFormed(text)}};
 }
 
-// The name of a file as a reference of RFC 3986: all but the unreserved characters and the slash as escapes.
-std::string UriOf(std::string_view name) {
-    constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
-    constexpr char kDigits[] = "0123456789ABCDEF";
-    std::string uri;
-    for (const char byte : name) {
-        if (kPlain.find(byte) != std::string_view::npos) {
-            uri += byte;
-        } else {
-            uri += {'%', kDigits[static_cast<unsigned char>(byte) >> 4], kDigits[byte & 15]};
-        }
-    }
-    return uri;
-}
-
 Json ArtifactLocation(std::string_view file) {
     const std::filesystem::path path = PathOf(std::string(file)).lexically_normal();
     const std::u8string generic = path.generic_u8string();
-    const std::string uri = UriOf({reinterpret_cast<const char*>(generic.data()), generic.size()});
+    const std::string uri = EscapeUri({reinterpret_cast<const char*>(generic.data()), generic.size()});
     if (path.is_absolute()) {
         return {{"uri", (uri.starts_with('/') ? "file://" : "file:///") + uri}};
     }

@@ -9,6 +9,7 @@ constexpr KeyForm kForms[] = {
     {"markdown", PrintKeysAsMarkdown},
     {"html", PrintKeysAsHtml},
     {"json", PrintKeysAsJson},
+    {"words", PrintKeysAsWords},
 };
 
 } // namespace

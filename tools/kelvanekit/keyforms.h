@@ -29,4 +29,7 @@ void PrintKeysAsMarkdown(std::string& out, const KeyModel& model, const KeySelec
 void PrintKeysAsHtml(std::string& out, const KeyModel& model, const KeySelection& selection);
 void PrintKeysAsJson(std::string& out, const KeyModel& model, const KeySelection& selection);
 
+// The endings of content files, all keys and all texts, each in a line behind its kind, for colours in editors.
+void PrintKeysAsWords(std::string& out, const KeyModel& model, const KeySelection& selection);
+
 } // namespace Vorn

@@ -27,18 +27,6 @@ void AppendWrapped(std::string& out, const std::string& words, std::size_t inden
     out += '\n';
 }
 
-std::string RowInWords(const KeyModel& model, const KeyRow& row, std::size_t mostTexts) {
-    const KeyDescription& key = *row.key;
-    std::string words = KindInWords(model, key);
-    if (!key.isList && !key.start.empty() && key.fixed.empty()) {
-        std::string start = key.start;
-        std::ranges::replace(start, '\n', ' ');
-        words += "; default " + start;
-    }
-    const std::string condition = ConditionInWords(row.when, mostTexts);
-    return condition.empty() ? words : words + "; " + condition;
-}
-
 void PrintRows(std::string& out, const KeyModel& model, const std::vector<KeyRow>& rows, std::size_t mostTexts) {
     constexpr std::size_t kWidest = 44;
     std::size_t width = 0;

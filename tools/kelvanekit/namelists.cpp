@@ -61,7 +61,8 @@ std::uint64_t EntityClassOf(const std::string& fileName) {
     return type == EntityType::Invalid ? KnownNames::kAnyClass : std::uint64_t{1} << static_cast<int>(type);
 }
 
-void AddBrushes(const std::string& fileName, KnownNames& names) {
+template <class Found>
+void FindBrushes(const std::string& fileName, Found found) {
     Quietly([&] {
         OneFile file(fileName);
         Core core(file);
@@ -69,24 +70,10 @@ void AddBrushes(const std::string& fileName, KnownNames& names) {
         BrushSet brushes(u"brushes");
         brushes.Load(core.fileArchiveSystem);
         for (const Brush& brush : brushes.GetBrushes()) {
-            names.Add(NameKind::Brush, std::u16string(brush.GetName().View()));
+            found(std::u16string(brush.GetName().View()));
         }
         brushes.ReleaseTextures();
     });
-}
-
-NameKind NameKindOf(ContentKind kind) {
-    switch (kind) {
-    case ContentKind::Mesh:
-        return NameKind::Mesh;
-    case ContentKind::Particle:
-        return NameKind::Particle;
-    case ContentKind::Brushes:
-        return NameKind::Brush;
-    case ContentKind::Entity:
-        return NameKind::Entity;
-    }
-    return NameKind::None;
 }
 
 void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) {
@@ -96,22 +83,7 @@ void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) 
     for (std::string& problem : sources.problems) {
         report.AddProblem(std::move(problem));
     }
-    for (const ContentKindRow& row : ContentKinds()) {
-        // Names of a kind are looked up even if no file is of that kind.
-        names.Add(NameKindOf(row.kind), {});
-    }
-    for (const SourceFile& file : sources.files) {
-        if (file.kind == ContentKind::Brushes) {
-            AddBrushes(file.name, names);
-            continue;
-        }
-        // A name stands with or without the ending of its file.
-        const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
-        const std::uint64_t classes =
-            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
-        names.Add(NameKindOf(file.kind), name.substr(0, name.rfind(u'.')), classes);
-        names.Add(NameKindOf(file.kind), name, classes);
-    }
+    AddContents(sources.files, names);
 }
 
 void AddList(const std::string& fileName, NameKind kind, KnownNames& names, FindingReport& report) {
@@ -131,6 +103,46 @@ void AddList(const std::string& fileName, NameKind kind, KnownNames& names, Find
 }
 
 } // namespace
+
+NameKind NameKindOf(ContentKind kind) {
+    switch (kind) {
+    case ContentKind::Mesh:
+        return NameKind::Mesh;
+    case ContentKind::Particle:
+        return NameKind::Particle;
+    case ContentKind::Brushes:
+        return NameKind::Brush;
+    case ContentKind::Entity:
+        return NameKind::Entity;
+    }
+    return NameKind::None;
+}
+
+void AddContents(const std::vector<SourceFile>& files, KnownNames& names, const NameFound& found) {
+    for (const ContentKindRow& row : ContentKinds()) {
+        // Names of a kind are looked up even if no file is of that kind.
+        names.Add(NameKindOf(row.kind), {});
+    }
+    for (const SourceFile& file : files) {
+        const NameKind kind = NameKindOf(file.kind);
+        const std::uint64_t classes =
+            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
+        const auto add = [&](const std::u16string& name) {
+            names.Add(kind, name, classes);
+            if (found) {
+                found(kind, name, file);
+            }
+        };
+        if (file.kind == ContentKind::Brushes) {
+            FindBrushes(file.name, add);
+            continue;
+        }
+        // A name stands with or without the ending of its file.
+        const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
+        add(name.substr(0, name.rfind(u'.')));
+        names.Add(kind, name, classes);
+    }
+}
 
 ContentChecker MakeChecker(const NameLists& lists, FindingReport& report) {
     const auto names = std::make_shared<KnownNames>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tools/kelvanekit/check/knownnames.h"
 #include "tools/kelvanekit/checkfiles.h"
 
 namespace Vorn {
@@ -14,6 +15,13 @@ struct NameLists {
 
     bool IsEmpty() const { return root.empty() && sounds.empty() && strings.empty(); }
 };
+
+// What a file of a type defines.
+NameKind NameKindOf(ContentKind kind);
+
+// Adds the names that contents define, and passes each to `found`, if there is one.
+using NameFound = std::function<void(NameKind kind, const std::u16string& name, const SourceFile& file)>;
+void AddContents(const std::vector<SourceFile>& files, KnownNames& names, const NameFound& found = {});
 
 // Checks contents with the names of the lists. What cannot be read of these becomes a problem of the report.
 ContentChecker MakeChecker(const NameLists& lists, FindingReport& report);

@@ -13,6 +13,7 @@ namespace Vorn {
 // The names that contents may refer to. A kind of which nothing was added is not looked up.
 class KnownNames {
 public:
+    static constexpr std::size_t kKinds = static_cast<std::size_t>(NameKind::StringId) + 1;
     static constexpr std::uint64_t kAnyClass = ~std::uint64_t{0};
 
     // `classes` are those of the thing, one bit for each row of their table, or all where they are not known.
@@ -31,8 +32,6 @@ public:
     static std::string_view WhatIs(NameKind kind);
 
 private:
-    static constexpr std::size_t kKinds = static_cast<std::size_t>(NameKind::StringId) + 1;
-
     using Names = std::unordered_map<std::u16string, std::uint64_t>;
 
     static std::u16string LastPart(std::u16string_view name);

@@ -230,4 +230,16 @@ std::string ConditionInWords(const KeyCondition& condition, std::size_t mostText
     return words;
 }
 
+std::string RowInWords(const KeyModel& model, const KeyRow& row, std::size_t mostTexts) {
+    const KeyDescription& key = *row.key;
+    std::string words = KindInWords(model, key);
+    if (!key.isList && !key.start.empty() && key.fixed.empty()) {
+        std::string start = key.start;
+        std::ranges::replace(start, '\n', ' ');
+        words += "; default " + start;
+    }
+    const std::string condition = ConditionInWords(row.when, mostTexts);
+    return condition.empty() ? words : words + "; " + condition;
+}
+
 } // namespace Vorn

@@ -58,6 +58,9 @@ inline constexpr std::size_t kAllTexts = static_cast<std::size_t>(-1);
 // named at most.
 std::string ConditionInWords(const KeyCondition& condition, std::size_t mostTexts = kAllTexts);
 
+// All of it in words, with the default.
+std::string RowInWords(const KeyModel& model, const KeyRow& row, std::size_t mostTexts = kAllTexts);
+
 // "a", "a or b", "a, b or c".
 std::string Listed(const std::vector<std::string>& words);
 

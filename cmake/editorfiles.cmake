@@ -1,0 +1,37 @@
+# Fills in the templates FILES of the folder TEMPLATES into the folder OUTPUT: cmake -DKIT=... -P editorfiles.cmake
+execute_process(COMMAND ${KIT} keys --format words OUTPUT_VARIABLE output COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX REPLACE "\n$" "" output "${output}")
+string(REPLACE "\n" ";" lines "${output}")
+
+# The words of a kind.
+function(get_words kind result)
+  set(words ${lines})
+  list(FILTER words INCLUDE REGEX "^${kind} ")
+  list(TRANSFORM words REPLACE "^${kind} " "")
+  set(${result} ${words} PARENT_SCOPE)
+endfunction()
+
+# Words with something around each and something between them.
+function(join_words words before after between result)
+  list(TRANSFORM words PREPEND "${before}")
+  list(TRANSFORM words APPEND "${after}")
+  list(JOIN words "${between}" joined)
+  set(${result} "${joined}" PARENT_SCOPE)
+endfunction()
+
+get_words(key keys)
+get_words(text texts)
+get_words(ending endings)
+list(TRANSFORM endings REPLACE "^[.]" "" OUTPUT_VARIABLE bareEndings)
+list(JOIN keys " " VIM_KEYS)
+list(JOIN texts " " VIM_TEXTS)
+join_words("${keys}" "" "" "|" KEYS)
+join_words("${texts}" "" "" "|" TEXTS)
+join_words("${endings}" "\"" "\"" ", " EXTENSIONS)
+join_words("${bareEndings}" "\"" "\"" ", " EXTENSION_NAMES)
+join_words("${bareEndings}" "'" "'" ", " LUA_ENDINGS)
+join_words("${bareEndings}" "*." "" "," PATTERNS)
+join_words("${bareEndings}" "" "" "," ENDINGS)
+foreach(file IN LISTS FILES)
+  configure_file(${TEMPLATES}/${file}.in ${OUTPUT}/${file} @ONLY)
+endforeach()

@@ -26,6 +26,11 @@ if(NOT WIN32)
   endif()
 endif()
 
+if(TARGET editor_files)
+  install(DIRECTORY editors/ ${editorsDirectory}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvane/editors COMPONENT kelvane
+    PATTERN "*.in" EXCLUDE)
+endif()
+
 install(TARGETS vorn EXPORT kelvane
   ARCHIVE COMPONENT libvorn-dev
   INCLUDES DESTINATION ${includeDirectory})

@@ -53,9 +53,8 @@ protected:
     Json Type(int line, int begin, int end, const std::string& text) {
         const Json range = {{"start", {{"line", line}, {"character", begin}}},
                             {"end", {{"line", line}, {"character", end}}}};
-        Tell("textDocument/didChange",
-             {{"textDocument", {{"uri", uri}, {"version", 2}}},
-              {"contentChanges", Json::array({{{"range", range}, {"text", text}}})}});
+        Tell("textDocument/didChange", {{"textDocument", {{"uri", uri}, {"version", 2}}},
+                                        {"contentChanges", Json::array({{{"range", range}, {"text", text}}})}});
         return Published();
     }
     // A sample as an editor has it, with line feeds alone.
@@ -128,8 +127,7 @@ TEST_F(LanguageServerTest, KeysAndTextsAreOffered) {
     EXPECT_EQ(Labels(Ask("textDocument/completion", At(LineWith(frigate, "hasLevels"), 10))),
               (std::vector<std::string>{"TRUE", "FALSE"}));
     const int explosion = LineWith(frigate, "ExplosionName");
-    EXPECT_EQ(Labels(Ask("textDocument/completion", At(explosion, 15))),
-              std::vector<std::string>{"\"FrigateBlast\""});
+    EXPECT_EQ(Labels(Ask("textDocument/completion", At(explosion, 15))), std::vector<std::string>{"\"FrigateBlast\""});
     // A line that is gone is offered where it stood, with its default.
     std::string lacking = frigate;
     const std::size_t begin = lacking.find("BuildTime");
@@ -148,9 +146,9 @@ TEST_F(LanguageServerTest, ASectionIsOfferedWithItsLines) {
     lacking.replace(begin, lacking.find("MaxShieldPoints\n") - begin, "\n");
     Open("a.entity", lacking);
     const Json items = Ask("textDocument/completion", At(LineWith(frigate, "MaxHullPoints\n"), 0))["items"];
-    ASSERT_GE(items.size(), 2U);
+    ASSERT_FALSE(items.empty());
     EXPECT_EQ(items[0]["label"], "MaxHullPoints");
-    EXPECT_EQ(items[1]["textEdit"]["newText"],
+    EXPECT_EQ(items[0]["textEdit"]["newText"],
               "MaxHullPoints\n\tLevel:0 ${1:0.000000}\n\tLevel:1 ${2:0.000000}\n\tLevel:2 ${3:0.000000}\n"
               "\tLevel:3 ${4:0.000000}");
 }
@@ -161,7 +159,8 @@ TEST_F(LanguageServerTest, KeysAreExplained) {
     const std::string text =
         Ask("textDocument/hover", At(LineWith(frigate, "frigateRoleType \""), 3))["contents"]["value"];
     EXPECT_NE(text.find("`Light`"), std::string::npos) << text;
-    const std::string level = Ask("textDocument/hover", At(LineWith(frigate, "MaxHullPoints") + 2, 3))["contents"]["value"];
+    const std::string level =
+        Ask("textDocument/hover", At(LineWith(frigate, "MaxHullPoints") + 2, 3))["contents"]["value"];
     EXPECT_NE(level.find("**MaxHullPoints.Level:1**"), std::string::npos) << level;
     EXPECT_TRUE(Ask("textDocument/hover", At(0, 0)).is_null());
 }
@@ -188,7 +187,8 @@ TEST_F(LanguageServerTest, SectionsAreListedAndFolded) {
     Start();
     Open("a.entity", frigate);
     const Json symbols = Ask("textDocument/documentSymbol", Document());
-    const auto found = std::ranges::find(symbols, Json("MaxHullPoints"), [](const Json& symbol) { return symbol["name"]; });
+    const auto found =
+        std::ranges::find(symbols, Json("MaxHullPoints"), [](const Json& symbol) { return symbol["name"]; });
     ASSERT_NE(found, symbols.end());
     const int line = LineWith(frigate, "MaxHullPoints");
     EXPECT_EQ((*found)["range"]["start"]["line"], line);
@@ -283,8 +283,8 @@ TEST_F(LanguageServerTest, DamagedSessionsAreSurvived) {
     session += Framed({{"id", 0}, {"method", "initialize"}, {"params", capabilities}});
     session += Framed({{"method", "textDocument/didOpen"},
                        {"params", {{"textDocument", {{"uri", uri}, {"text", frigate.substr(0, 3000)}}}}}});
-    for (const char* method : {"completion", "hover", "definition", "references", "documentSymbol", "foldingRange",
-                               "formatting"}) {
+    for (const char* method :
+         {"completion", "hover", "definition", "references", "documentSymbol", "foldingRange", "formatting"}) {
         session += Framed({{"id", method}, {"method", std::string("textDocument/") + method}, {"params", At(9, 4)}});
     }
     session += Framed({{"id", 8}, {"method", "shutdown"}}) + Framed({{"method", "exit"}});

@@ -3,7 +3,7 @@
 #include "engine/archive/enumtable.h"
 #include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/fileuri.h"
-#include "tools/kelvanekit/lsp/keyhover.h"
+#include "tools/kelvanekit/lsp/fieldreference.h"
 #include "tools/kelvanekit/namelists.h"
 
 #include <algorithm>
@@ -119,7 +119,22 @@ std::string SnippetText(std::string_view text, std::string_view special) {
 // The lines of fields that a text lacks.
 class MissingLines {
 public:
-    MissingLines(const TextFields& _fields, bool _isSnippet) : fields(_fields), isSnippet(_isSnippet) {}
+    MissingLines(ContentKind _kind, const TextFields& _fields, bool _isSnippet)
+        : kind(_kind), fields(_fields), isSnippet(_isSnippet) {}
+
+    // The lines of a group behind its own, each behind a line feed.
+    std::string SectionOf(std::int32_t ask) {
+        const AskedField& field = fields.asks[static_cast<std::size_t>(ask)];
+        std::string text;
+        if (field.kind != FieldKind::Record) {
+            return text;
+        }
+        for (const SectionLine& line : Vorn::SectionOf(kind, fields.asks, ask)) {
+            text += '\n' + std::string(static_cast<std::size_t>(field.depth + line.depth), '\t') + line.key;
+            text += line.value.empty() ? "" : ' ' + Place(line.value);
+        }
+        return text;
+    }
 
     // The line of a field without its end.
     std::string LineOf(std::int32_t ask) {
@@ -140,13 +155,10 @@ private:
         if (field.table != nullptr && field.table->rowCount > 0) {
             value = InQuotes(field.table->rows[0]);
         }
-        if (!isSnippet) {
-            return value;
+        if (!isSnippet || field.table == nullptr) {
+            return Place(value);
         }
         const std::string place = std::to_string(++placeCount);
-        if (field.table == nullptr) {
-            return "${" + place + ':' + SnippetText(value, "$}\\") + '}';
-        }
         std::string choices;
         for (std::int32_t row = 0; row < field.table->rowCount; ++row) {
             choices += (row == 0 ? "" : ",") + SnippetText(InQuotes(field.table->rows[row]), ",|\\$}");
@@ -154,6 +166,12 @@ private:
         return "${" + place + '|' + choices + "|}";
     }
 
+    // A value to be filled in.
+    std::string Place(const std::string& value) {
+        return isSnippet ? "${" + std::to_string(++placeCount) + ':' + SnippetText(value, "$}\\") + '}' : value;
+    }
+
+    const ContentKind kind;
     const TextFields& fields;
     const bool isSnippet;
     int placeCount = 0;
@@ -182,29 +200,30 @@ std::vector<Completion> KeysAt(const TextDocument& document, const LineParts& pa
     const std::string indentation(Between(document, parts.begin, parts.keyBegin));
     const bool hasValue = parts.valueBegin < parts.valueEnd;
     std::vector<Completion> completions;
-    const auto add = [&](std::int32_t begin, std::int32_t stop, std::string detail) {
+    const auto add = [&](std::int32_t begin, std::int32_t stop) {
         Completion& completion = completions.emplace_back();
         completion.label = ToUtf8(fields.asks[static_cast<std::size_t>(begin)].label);
         completion.filter = hasValue ? completion.label : indentation + completion.label;
-        completion.detail = std::move(detail);
         completion.isKey = true;
         completion.isSnippet = hasSnippets && !hasValue;
         completion.begin = hasValue ? parts.keyBegin : parts.begin;
         completion.end = hasValue ? parts.keyEnd : std::max(parts.keyEnd, cursor);
-        MissingLines lines(fields, completion.isSnippet);
+        MissingLines lines(document.Kind(), fields, completion.isSnippet);
         for (std::int32_t ask = begin; ask < stop; ++ask) {
-            completion.text += (ask == begin ? "" : "\n") + lines.LineOf(ask);
+            completion.text += (ask == begin ? "" : "\n") + lines.LineOf(ask) + lines.SectionOf(ask);
         }
+        const auto lineFeeds = std::ranges::count(completion.text, '\n');
+        completion.detail = lineFeeds > 0 ? "and " + std::to_string(lineFeeds) + " lines that belong to it" : "";
         if (hasValue) {
             completion.text = completion.label;
         }
     };
     for (std::int32_t ask = first; ask < end; ++ask) {
         if (fields.asks[static_cast<std::size_t>(ask)].kind != FieldKind::Row) {
-            add(ask, ask + 1, {});
+            add(ask, ask + 1);
         }
         if (ask == first && end - first > 1 && !hasValue) {
-            add(ask, end, "and the " + std::to_string(end - first - 1) + " lines that are missing behind it");
+            add(ask, end);
         }
     }
     return completions;

@@ -205,7 +205,7 @@ LanguageServer::Json LanguageServer::DidClose(const Json& params) {
 }
 
 LanguageServer::Json LanguageServer::DidChangeFiles(const Json&) {
-    NamesChanged();
+    isIndexed = false;
     return {};
 }
 
@@ -216,16 +216,8 @@ LanguageServer::Json LanguageServer::DidChangeFolders(const Json& params) {
     for (const Json& folder : At(params, "event", "added")) {
         folders.push_back(FileOfUri(folder.at("uri").get<std::string>()));
     }
-    NamesChanged();
-    return {};
-}
-
-void LanguageServer::NamesChanged() {
     isIndexed = false;
-    for (auto& [uri, document] : documents) {
-        document.ForgetFindings();
-        changed.insert(uri);
-    }
+    return {};
 }
 
 const WorkspaceIndex& LanguageServer::Index() {
@@ -246,7 +238,7 @@ void LanguageServer::PublishChanged() {
 
 LanguageServer::Json LanguageServer::Diagnostics(TextDocument& document) {
     Json diagnostics = Json::array();
-    for (const Finding& finding : document.GetFindings(Index().Names())) {
+    for (const Finding& finding : document.GetFindings()) {
         diagnostics.push_back(
             {{"range", RangeOf(document, finding.place)},
              {"severity", SeverityOf(finding)},
@@ -439,7 +431,7 @@ LanguageServer::Json LanguageServer::CodeActions(const Json& params) {
     const std::int32_t firstLine = document.CheckedLineAt(begin) + 1;
     const std::int32_t lastLine = document.CheckedLineAt(end) + 1;
     Json actions = Json::array();
-    for (const Finding& finding : document.GetFindings(Index().Names())) {
+    for (const Finding& finding : document.GetFindings()) {
         if (!finding.hasReplacement || finding.place.line < firstLine || finding.place.line > lastLine) {
             continue;
         }
@@ -455,11 +447,9 @@ LanguageServer::Json LanguageServer::CodeActions(const Json& params) {
 // Nothing that is wrong may be lost by it, so only a content without findings is written anew.
 LanguageServer::Json LanguageServer::Formatting(const Json& params) {
     TextDocument& document = DocumentOf(params);
-    if (!document.GetFindings(nullptr).empty()) {
-        document.ForgetFindings();
+    if (!document.GetFindings().empty()) {
         return Json::array();
     }
-    document.ForgetFindings();
     ContentConverter converter;
     if (converter.Convert(document.Kind(), FileOfUri(UriIn(params)), document.Text(), FileArchiveType::Text) !=
         ConversionResult::Converted) {

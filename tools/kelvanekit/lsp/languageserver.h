@@ -68,7 +68,6 @@ private:
 
     TextDocument& DocumentOf(const Json& params);
     const WorkspaceIndex& Index();
-    void NamesChanged();
     Json Diagnostics(TextDocument& document);
     Json RangeOf(const TextDocument& document, std::size_t begin, std::size_t end) const;
     Json RangeOf(const TextDocument& document, const FindingPlace& place) const;

@@ -90,9 +90,9 @@ void TextDocument::FindLines() {
     }
 }
 
-const Findings& TextDocument::GetFindings(const KnownNames* names) {
+const Findings& TextDocument::GetFindings() {
     if (!findings) {
-        findings = CheckContent(kind, text, {names});
+        findings = CheckContent(kind, text);
     }
     return *findings;
 }

@@ -53,10 +53,8 @@ public:
     void SetText(std::string _text);
 
     // What a check of the text finds, and the fields that it reads. Both are made once for every change.
-    const Findings& GetFindings(const KnownNames* names);
+    const Findings& GetFindings();
     const TextFields& Fields();
-    // To be called when names of other contents have changed.
-    void ForgetFindings() { findings.reset(); }
 
     // Where lines begin as a check counts them, which end with line feeds alone.
     std::size_t CheckedLineStart(std::int32_t line) const;

@@ -12,7 +12,8 @@ void WorkspaceIndex::Walk(const std::vector<std::string>& folders) {
     SourceOptions options;
     options.names = folders;
     files = FindSources(options).files;
-    AddContents(files, names.emplace(), [&](NameKind kind, const std::u16string& name, const SourceFile& file) {
+    KnownNames names;
+    AddContents(files, names, [&](NameKind kind, const std::u16string& name, const SourceFile& file) {
         places[static_cast<std::size_t>(kind)].emplace(name, NamePlace{file.name});
     });
 }

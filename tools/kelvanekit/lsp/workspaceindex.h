@@ -5,7 +5,6 @@
 
 #include <array>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,8 +24,6 @@ public:
     void Walk(const std::vector<std::string>& folders);
 
     const std::vector<SourceFile>& Files() const { return files; }
-    // For checks; null where there is no folder.
-    const KnownNames* Names() const { return names ? &*names : nullptr; }
 
     // The names of a kind with their places. A name that is defined twice has its first place.
     using Places = std::map<std::u16string, NamePlace>;
@@ -36,7 +33,6 @@ public:
 
 private:
     std::vector<SourceFile> files;
-    std::optional<KnownNames> names;
     std::array<Places, KnownNames::kKinds> places;
 };
 

@@ -141,17 +141,17 @@ void ValueScan::Note(const FindingCode* code, std::string_view part, std::string
 }
 
 // What follows a number whose first `length` bytes are taken.
-void ValueScan::NoteRest(std::string_view number, std::size_t length) {
+void ValueScan::NoteRest(std::string_view number, std::size_t length, bool isReal) {
     const std::string_view rest = number.substr(length);
-    std::string help;
-    if (rest.starts_with(',') && rest.size() > 1 && DigitsAt(rest, 1) == rest.size() - 1) {
-        help = "decimals follow a point: `" + std::string(number.substr(0, length)) + '.' +
-               std::string(rest.substr(1)) + '`';
+    const std::string message = Quoted(number) + " is not a number as a whole: " + Quoted(number.substr(0, length)) +
+                                " is taken, and " + Quoted(rest) + " is lost";
+    if (isReal && rest.starts_with(',') && rest.size() > 1 && DigitsAt(rest, 1) == rest.size() - 1) {
+        const std::string decimals = '.' + std::string(rest.substr(1));
+        Note(Code("number-with-rest"), rest, message,
+             "decimals follow a point: " + Quoted(std::string(number.substr(0, length)) + decimals), decimals);
+    } else {
+        Note(Code("number-with-rest"), rest, message);
     }
-    Note(Code("number-with-rest"), rest,
-         Quoted(number) + " is not a number as a whole: " + Quoted(number.substr(0, length)) + " is taken, and " +
-             Quoted(rest) + " is lost",
-         std::move(help));
 }
 
 // False if there is no number at all.
@@ -170,7 +170,7 @@ bool ValueScan::TakeWhole(std::string_view number, std::int64_t& value) {
                  "a whole number is wanted: " + Quoted(number) + " becomes " + std::string(number.substr(0, length)),
                  {}, std::string(number.substr(0, length)));
         } else {
-            NoteRest(number, length);
+            NoteRest(number, length, false);
         }
     }
     const std::string_view digits = number.substr(number.starts_with('+') ? 1 : 0, length - (number[0] == '+' ? 1 : 0));
@@ -215,7 +215,7 @@ void ValueScan::TakeFloat(std::string_view number, float& value) {
     const std::string_view decimal = number.substr(0, length);
     value = RealOf<float>(decimal);
     if (length < number.size()) {
-        NoteRest(number, length);
+        NoteRest(number, length, true);
     } else if (std::isinf(value)) {
         Note(Code("number-out-of-range"), number, Quoted(number) + " is too large: it becomes infinite");
     } else if (const std::string kept = FloatText(value); !SameDecimal(decimal, kept)) {
@@ -235,7 +235,7 @@ void ValueScan::Double(double& value) {
     }
     value = RealOf<double>(text);
     if (length != 0 && length < text.size()) {
-        NoteRest(text, length);
+        NoteRest(text, length, true);
     }
 }
 

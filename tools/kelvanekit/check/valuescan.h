@@ -49,7 +49,7 @@ private:
     bool TakeWhole(std::string_view number, std::int64_t& value);
     void TakeInt(std::string_view number, std::int32_t& value);
     void TakeFloat(std::string_view number, float& value);
-    void NoteRest(std::string_view number, std::size_t length);
+    void NoteRest(std::string_view number, std::size_t length, bool isReal);
     template <class Value, class Take>
     void TakeList(std::span<Value> values, bool hasCommas, Take take);
 

@@ -22,7 +22,7 @@ std::string TextOf(const std::string& bytes) {
     Value value;
     std::memcpy(&value, bytes.data(), sizeof value);
     WrittenFile written(FileArchiveType::Text);
-    written.GetArchive().Write({}, value);
+    written.GetArchive().Write(u"", value);
     return written.Finish();
 }
 

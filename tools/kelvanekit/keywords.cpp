@@ -1,4 +1,6 @@
+#include "engine/archive/archiveheader.h"
 #include "tools/kelvane/contentkind.h"
+#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/keyforms.h"
 
 #include <set>
@@ -25,7 +27,7 @@ void PrintWords(std::string& out, std::string_view kind, const std::set<std::str
 } // namespace
 
 void PrintKeysAsWords(std::string& out, const KeyModel& model, const KeySelection& selection) {
-    std::set<std::string> keys;
+    std::set<std::string> keys = {ToUtf8(kVersionLabel)};
     for (const std::int32_t record : selection.records) {
         CollectKeys(model.records[static_cast<std::size_t>(record)].keys, keys);
     }

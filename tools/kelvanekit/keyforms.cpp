@@ -5,8 +5,8 @@ namespace Vorn {
 namespace {
 
 constexpr KeyForm kForms[] = {
-    {"text", PrintKeysAsText}, {"markdown", PrintKeysAsMarkdown}, {"html", PrintKeysAsHtml},
-    {"json", PrintKeysAsJson}, {"words", PrintKeysAsWords},
+    {"text", PrintKeysAsText}, {"markdown", PrintKeysAsMarkdown},  {"html", PrintKeysAsHtml},
+    {"json", PrintKeysAsJson}, {"words", PrintKeysAsWords, false},
 };
 
 } // namespace

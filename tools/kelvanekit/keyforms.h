@@ -19,6 +19,7 @@ struct KeySelection {
 struct KeyForm {
     std::string_view name;
     void (*print)(std::string& out, const KeyModel& model, const KeySelection& selection);
+    bool hasReports = true;
 };
 
 std::span<const KeyForm> KeyForms();

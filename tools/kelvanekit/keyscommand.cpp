@@ -79,8 +79,11 @@ int Find(const KeyModel& model, const std::string& part, OutputStream& output, O
 }
 
 int Keys(const KeysArguments& arguments, OutputStream& output, OutputStream& errors) {
-    const bool isOverview = arguments.name.empty() && arguments.form == &KeyForms().front();
-    const KeyModel model = DescribeKeys(isOverview || !arguments.find.empty() ? ReportDetail::None : ReportDetail::All);
+    // As text, only whole records are shown with their reports.
+    const bool isText = arguments.form == &KeyForms().front();
+    const bool isRecord = !arguments.name.empty() && arguments.name.find('.') == std::string::npos;
+    const bool hasReports = arguments.find.empty() && arguments.form->hasReports && (!isText || isRecord);
+    const KeyModel model = DescribeKeys(hasReports ? ReportDetail::All : ReportDetail::None);
     if (!arguments.find.empty()) {
         return Find(model, arguments.find, output, errors);
     }

@@ -13,7 +13,7 @@ namespace Vorn {
 namespace {
 
 const KeyModel& Reference() {
-    static const KeyModel model = DescribeKeys();
+    static const KeyModel model = DescribeKeys(ReportDetail::None);
     return model;
 }
 

@@ -27,7 +27,7 @@ expect "$(complete_with check --root sampl)" samples
 expect "$(complete_with check samples/entity/star_)" samples/entity/star_amber.entity
 expect "$(complete_with check --disable missing-key samples/b)" samples/brushes
 expect "$(complete_with check LICEN)" LICENSE
-expect "$(complete_with keys --format '')" 'text markdown html json'
+expect "$(complete_with keys --format '')" 'text markdown html json words'
 expect "$(complete_with keys CapitalSh)" CapitalShip
 expect "$(complete_with new entity StarBaseU)" StarBaseUpgrade
 

@@ -102,6 +102,23 @@ TEST_F(LanguageServerTest, MistakesAreUnderlinedAndCured) {
               Json::array());
 }
 
+TEST_F(LanguageServerTest, MissingLinesAreInserted) {
+    Start();
+    for (const std::string_view part : {"BuildTime 28.000000\n", "MaxHullPoints\n"}) {
+        std::string lacking = frigate;
+        lacking.erase(lacking.find(part), part.size());
+        const Json missing = Open("a.entity", lacking);
+        ASSERT_EQ(missing.size(), 1U) << missing;
+        Json params = Document();
+        params["range"] = missing[0]["range"];
+        const Json actions = Ask("textDocument/codeAction", params);
+        ASSERT_EQ(actions.size(), 1U) << actions;
+        const Json edit = actions[0]["edit"]["changes"][uri][0];
+        EXPECT_EQ(edit["newText"], part.starts_with("Build") ? "BuildTime 0.000000\n" : part);
+        EXPECT_EQ(edit["range"]["start"]["line"], LineWith(frigate, part));
+    }
+}
+
 TEST_F(LanguageServerTest, PositionsAreCountedAsTheClientWishes) {
     const std::string text = "TXT2\nZephArchiveVersion 194\n\xF0\x9F\x9A\x80 \xC3\xA9 1\n";
     const LineIndex lines(text);

@@ -364,12 +364,43 @@ std::vector<ContentSymbol> SymbolsOf(TextDocument& document) {
     return SymbolTree(document).Below(kNone);
 }
 
-std::string TitleOf(const Finding& finding) {
-    const std::string text(Trimmed(finding.replacement));
-    if (text.empty()) {
-        return "Remove it";
+namespace {
+
+// The line of a key that is missing, in front of the line at which it was missed.
+std::optional<Cure> MissingLineOf(TextDocument& document, const Finding& finding) {
+    const TextFields& fields = document.Fields();
+    for (const auto& [ask, value] : fields.missingValues) {
+        if (PathOf(fields.asks, ask) != finding.key) {
+            continue;
+        }
+        const bool hasParts = std::ranges::any_of(
+            fields.asks, [&](const AskedField& field) { return field.parent == ask && !field.IsMissing(); });
+        MissingLines lines(document.Kind(), fields, false);
+        const std::string line = lines.LineOf(ask);
+        const std::size_t place = document.CheckedLineStart(finding.place.line - 1);
+        const bool isBehindEnd = place > 0 && document.Text()[place - 1] != '\n';
+        return Cure{"Insert " + Quoted(Trimmed(line)),
+                    (isBehindEnd ? "\n" : "") + line + (hasParts ? "" : lines.SectionOf(ask)) + '\n', place, place};
     }
-    return (finding.place.begin == finding.place.end ? "Insert `" : "Replace it by `") + text + '`';
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Cure> CureOf(TextDocument& document, const Finding& finding) {
+    if (finding.place.line == 0) {
+        return std::nullopt;
+    }
+    if (!finding.hasReplacement) {
+        return MissingLineOf(document, finding);
+    }
+    const std::size_t line = document.CheckedLineStart(finding.place.line - 1);
+    const bool isInsertion = finding.place.begin == finding.place.end;
+    const std::string title = finding.replacement.empty()
+                                  ? "Remove it"
+                                  : (isInsertion ? "Insert " : "Replace it by ") + Quoted(Trimmed(finding.replacement));
+    return Cure{title, finding.replacement, line + static_cast<std::size_t>(finding.place.begin),
+                line + static_cast<std::size_t>(finding.place.end)};
 }
 
 bool ContainsIgnoringCase(std::u16string_view text, std::u16string_view part) {

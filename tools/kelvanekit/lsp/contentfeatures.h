@@ -65,8 +65,14 @@ struct ContentSymbol {
 };
 std::vector<ContentSymbol> SymbolsOf(TextDocument& document);
 
-// What the cure of a finding does, in words.
-std::string TitleOf(const Finding& finding);
+// What repairs a finding: a text in place of the bytes from `begin` up to `end`, and what it does, in words.
+struct Cure {
+    std::string title;
+    std::string text;
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+std::optional<Cure> CureOf(TextDocument& document, const Finding& finding);
 
 bool ContainsIgnoringCase(std::u16string_view text, std::u16string_view part);
 

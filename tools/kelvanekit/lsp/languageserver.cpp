@@ -432,14 +432,17 @@ LanguageServer::Json LanguageServer::CodeActions(const Json& params) {
     const std::int32_t lastLine = document.CheckedLineAt(end) + 1;
     Json actions = Json::array();
     for (const Finding& finding : document.GetFindings()) {
-        if (!finding.hasReplacement || finding.place.line < firstLine || finding.place.line > lastLine) {
+        if (finding.place.line < firstLine || finding.place.line > lastLine) {
             continue;
         }
-        const Json edit = {{"range", RangeOf(document, finding.place)}, {"newText", WellFormed(finding.replacement)}};
-        actions.push_back({{"title", TitleOf(finding)},
-                           {"kind", "quickfix"},
-                           {"isPreferred", true},
-                           {"edit", {{"changes", {{uri, Json::array({edit})}}}}}});
+        if (const std::optional<Cure> cure = CureOf(document, finding)) {
+            const Json edit = {{"range", RangeOf(document, cure->begin, cure->end)},
+                               {"newText", WellFormed(cure->text)}};
+            actions.push_back({{"title", WellFormed(cure->title)},
+                               {"kind", "quickfix"},
+                               {"isPreferred", true},
+                               {"edit", {{"changes", {{uri, Json::array({edit})}}}}}});
+        }
     }
     return actions;
 }

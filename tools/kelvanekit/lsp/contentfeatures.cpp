@@ -304,20 +304,22 @@ public:
         }
         for (std::size_t i = 0; i < asks.size(); ++i) {
             if (IsSymbol(asks[i])) {
-                children[static_cast<std::size_t>(asks[i].parent + 1)].push_back(i);
+                children[PlaceBelow(asks[i].parent)].push_back(i);
             }
         }
     }
 
     std::vector<ContentSymbol> Below(std::int32_t parent) const {
         std::vector<ContentSymbol> symbols;
-        for (const std::size_t ask : children[static_cast<std::size_t>(parent + 1)]) {
+        for (const std::size_t ask : children[PlaceBelow(parent)]) {
             symbols.push_back(SymbolOf(ask));
         }
         return symbols;
     }
 
 private:
+    // The symbols of the file stand in front of those of its first field.
+    static std::size_t PlaceBelow(std::int32_t parent) { return static_cast<std::size_t>(parent) + 1; }
     static bool IsGroup(const AskedField& field) { return field.kind == FieldKind::Record; }
     static bool IsSymbol(const AskedField& field) {
         return !field.IsMissing() && (IsGroup(field) || (field.list != kNone && field.kind != FieldKind::Row));
@@ -369,7 +371,8 @@ namespace {
 // The line of a key that is missing, in front of the line at which it was missed.
 std::optional<Cure> MissingLineOf(TextDocument& document, const Finding& finding) {
     const TextFields& fields = document.Fields();
-    for (const auto& [ask, value] : fields.missingValues) {
+    for (const auto& missing : fields.missingValues) {
+        const std::int32_t ask = missing.first;
         if (PathOf(fields.asks, ask) != finding.key) {
             continue;
         }
@@ -407,7 +410,8 @@ bool ContainsIgnoringCase(std::u16string_view text, std::u16string_view part) {
     const auto lower = [](char16_t unit) {
         return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
     };
-    return !std::ranges::search(text, part, {}, lower, lower).empty() || part.empty();
+    const auto isSame = [&](char16_t left, char16_t right) { return lower(left) == lower(right); };
+    return part.empty() || std::search(text.begin(), text.end(), part.begin(), part.end(), isSame) != text.end();
 }
 
 } // namespace Vorn

@@ -187,6 +187,7 @@ private:
     // The name of an enumeration; two of one type name are told apart by a number.
     std::string ChoicesOf(const EnumTable& table) {
         std::vector<std::string> texts;
+        texts.reserve(static_cast<std::size_t>(table.rowCount));
         for (std::int32_t row = 0; row < table.rowCount; ++row) {
             texts.push_back(ToUtf8(table.rows[row]));
         }

@@ -1,8 +1,9 @@
+#include "tests/support/tempfolder.h"
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
 #include <sys/resource.h>
@@ -41,8 +42,7 @@ std::string BinaryNumber(unsigned number) {
 }
 
 std::string ReadSample(const char* name) {
-    std::ifstream file(fs::path(KELVANE_SAMPLES) / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    return Vorn::ReadBytes(fs::path(KELVANE_SAMPLES) / name).value();
 }
 
 // Each count of a sample made huge, with nothing or with a line that waits behind it.
@@ -130,8 +130,7 @@ void AddPlayers(std::vector<Shape>& shapes) {
 }
 
 bool Survives(const char* converter, const Shape& shape, const char* form) {
-    std::ofstream("source", std::ios::binary)
-        .write(shape.bytes.data(), static_cast<std::streamsize>(shape.bytes.size()));
+    Vorn::WriteBytes("source", shape.bytes);
     const pid_t child = fork();
     if (child == 0) {
         BecomeConverter(converter, shape, form);
@@ -153,11 +152,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::string converter = fs::absolute(argv[1]).string();
-    std::string folder = (fs::temp_directory_path() / "kelvane-hostile-XXXXXX").string();
-    if (mkdtemp(folder.data()) == nullptr) {
-        return 2;
-    }
-    fs::current_path(folder);
+    const Vorn::TempFolder folder;
+    fs::current_path(folder.Path());
     std::vector<Shape> shapes;
     AddMeshes(shapes);
     AddBrushes(shapes);
@@ -170,7 +166,6 @@ int main(int argc, char** argv) {
         failures += Survives(converter.c_str(), shape, form) ? 0 : 1;
     }
     fs::current_path("/");
-    fs::remove_all(folder);
     std::printf("%zu shapes, %d failures\n", shapes.size(), failures);
     return failures == 0 && !shapes.empty() ? 0 : 1;
 }

@@ -71,14 +71,8 @@ void PutColumns(std::string& out, const ContentFile& content, const DumpedField&
 }
 
 void PutFindingLine(std::string& out, const ContentFile&, const Finding& finding) {
-    out.append(kPlaceColumns + 1, ' ').append("^ ").append(NameOf(finding.code->severity)).append(": ");
-    AppendVisible(out, finding.message);
-    if (!finding.help.empty()) {
-        out += " (";
-        AppendVisible(out, finding.help);
-        out += ')';
-    }
-    out.append(" [").append(finding.code->name).append("]\n");
+    out.append(kPlaceColumns + 1, ' ').append("^ ");
+    AppendSentence(out, finding.code->severity, finding);
 }
 
 void BeginNothing(std::string&, const ContentFile&) {}

@@ -1,6 +1,7 @@
 #include "tools/kelvanekit/convertfiles.h"
 
 #include "tools/kelvane/contentconverter.h"
+#include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/convertplan.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/interruption.h"
@@ -16,7 +17,7 @@ namespace {
 Finding FileFinding(const FindingCode* code, std::string_view bytes, std::string message) {
     Finding finding;
     finding.code = code;
-    if (bytes.starts_with("BIN")) {
+    if (IsBinaryContent(bytes)) {
         finding.place.offset = 0;
     } else {
         finding.place.line = 1;

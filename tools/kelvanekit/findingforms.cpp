@@ -46,6 +46,17 @@ std::string_view NameOf(Severity severity) {
     return kNames[static_cast<std::size_t>(severity)];
 }
 
+void AppendSentence(std::string& out, Severity severity, const Finding& finding) {
+    out.append(NameOf(severity)).append(": ");
+    AppendVisible(out, finding.message);
+    if (!finding.help.empty()) {
+        out += " (";
+        AppendVisible(out, finding.help);
+        out += ')';
+    }
+    out.append(" [").append(finding.code->name).append("]\n");
+}
+
 void PrintLine(std::string& out, const ReportedFinding& reported, bool) {
     const Finding& finding = reported.finding;
     AppendVisible(out, reported.file);
@@ -55,14 +66,8 @@ void PrintLine(std::string& out, const ReportedFinding& reported, bool) {
     } else {
         out += ":+" + std::to_string(finding.place.offset);
     }
-    out.append(": ").append(NameOf(reported.severity)).append(": ");
-    AppendVisible(out, finding.message);
-    if (!finding.help.empty()) {
-        out += " (";
-        AppendVisible(out, finding.help);
-        out += ')';
-    }
-    out.append(" [").append(finding.code->name).append("]\n");
+    out += ": ";
+    AppendSentence(out, reported.severity, finding);
 }
 
 void PrintGithub(std::string& out, const ReportedFinding& reported, bool) {

@@ -40,6 +40,9 @@ const FindingForm* FindForm(std::string_view name);
 
 std::string_view NameOf(Severity severity);
 
+// "error: MESSAGE (HELP) [CODE]" and the end of the line.
+void AppendSentence(std::string& out, Severity severity, const Finding& finding);
+
 // One finding in each of the forms.
 void PrintPretty(std::string& out, const ReportedFinding& finding, bool colors);
 void PrintLine(std::string& out, const ReportedFinding& finding, bool colors);

@@ -83,7 +83,19 @@ void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) 
     for (std::string& problem : sources.problems) {
         report.AddProblem(std::move(problem));
     }
-    AddContents(sources.files, names);
+    for (const ContentKindRow& row : ContentKinds()) {
+        // Names of a kind are looked up even if no file is of that kind.
+        names.Add(NameKindOf(row.kind), {});
+    }
+    FindNames(sources.files, [&](const std::u16string& name, const SourceFile& file) {
+        const std::uint64_t classes =
+            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
+        names.Add(NameKindOf(file.kind), name, classes);
+        if (file.kind != ContentKind::Brushes) {
+            // A name stands with or without the ending of its file.
+            names.Add(NameKindOf(file.kind), name + NameFromBytes(file.name.substr(file.name.rfind('.'))), classes);
+        }
+    });
 }
 
 void AddList(const std::string& fileName, NameKind kind, KnownNames& names, FindingReport& report) {
@@ -118,29 +130,14 @@ NameKind NameKindOf(ContentKind kind) {
     return NameKind::None;
 }
 
-void AddContents(const std::vector<SourceFile>& files, KnownNames& names, const NameFound& found) {
-    for (const ContentKindRow& row : ContentKinds()) {
-        // Names of a kind are looked up even if no file is of that kind.
-        names.Add(NameKindOf(row.kind), {});
-    }
+void FindNames(const std::vector<SourceFile>& files, const NameFound& found) {
     for (const SourceFile& file : files) {
-        const NameKind kind = NameKindOf(file.kind);
-        const std::uint64_t classes =
-            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
-        const auto add = [&](const std::u16string& name) {
-            names.Add(kind, name, classes);
-            if (found) {
-                found(kind, name, file);
-            }
-        };
         if (file.kind == ContentKind::Brushes) {
-            FindBrushes(file.name, add);
+            FindBrushes(file.name, [&](const std::u16string& name) { found(name, file); });
             continue;
         }
-        // A name stands with or without the ending of its file.
         const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
-        add(name.substr(0, name.rfind(u'.')));
-        names.Add(kind, name, classes);
+        found(name.substr(0, name.rfind(u'.')), file);
     }
 }
 

@@ -19,9 +19,9 @@ struct NameLists {
 // What a file of a type defines.
 NameKind NameKindOf(ContentKind kind);
 
-// Adds the names that contents define, and passes each to `found`, if there is one.
-using NameFound = std::function<void(NameKind kind, const std::u16string& name, const SourceFile& file)>;
-void AddContents(const std::vector<SourceFile>& files, KnownNames& names, const NameFound& found = {});
+// Calls `found` with each name that contents define: those of brushes, and of other files their own without its ending.
+using NameFound = std::function<void(const std::u16string& name, const SourceFile& file)>;
+void FindNames(const std::vector<SourceFile>& files, const NameFound& found);
 
 // Checks contents with the names of the lists. What cannot be read of these becomes a problem of the report.
 ContentChecker MakeChecker(const NameLists& lists, FindingReport& report);

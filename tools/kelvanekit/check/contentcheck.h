@@ -12,6 +12,9 @@ struct CheckOptions {
     const KnownNames* names = nullptr;
 };
 
+// Whether the bytes of a content file are read as its binary form.
+bool IsBinaryContent(std::string_view bytes);
+
 // All mistakes in the bytes of a content file of either form, in the order of their places. Comes to an end and keeps
 // its memory in proportion to the bytes whatever they are.
 Findings CheckContent(ContentKind kind, std::string_view bytes, const CheckOptions& options = {});

@@ -3,6 +3,7 @@
 #include "engine/archive/archiveheader.h"
 #include "engine/archive/archiveversion.h"
 #include "tools/kelvanekit/check/binaryreader.h"
+#include "tools/kelvanekit/check/contentcheck.h"
 #include "tools/kelvanekit/check/contentfindings.h"
 #include "tools/kelvanekit/check/mendsearch.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
@@ -19,11 +20,6 @@ bool HasMark(std::string_view line) {
     return line.substr(0, kHeaderLineCapacity - 1).find(header) != std::string_view::npos;
 }
 
-bool IsBinaryFile(std::string_view bytes) {
-    return bytes.size() >= kBinaryMarkSize && std::equal(kBinaryHeader, kBinaryHeader + kBinaryMarkSize,
-                                                         reinterpret_cast<const unsigned char*>(bytes.data()));
-}
-
 std::string_view FirstLine(const char* start) {
     return {start, std::strcspn(start, "\r\n")};
 }
@@ -32,7 +28,7 @@ std::string_view FirstLine(const char* start) {
 
 ContentReading::ContentReading(ContentKind _kind, std::string_view _bytes, const KnownNames* _names)
     : kind(_kind), bytes(_bytes), names(_names) {
-    if (!IsBinaryFile(bytes)) {
+    if (!IsBinaryContent(bytes)) {
         text.emplace(bytes);
         ReadHeader();
     }

@@ -77,7 +77,7 @@ std::vector<std::string> ValuesOf(const AskedField& field, const WorkspaceIndex&
             values.push_back(InQuotes(field.table->rows[row]));
         }
     } else if (field.name != NameKind::None) {
-        for (const auto& [name, place] : index.Of(field.name)) {
+        for (const auto& [name, file] : index.Of(field.name)) {
             values.push_back(InQuotes(name));
         }
     }

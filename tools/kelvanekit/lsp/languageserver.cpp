@@ -284,8 +284,7 @@ LanguageServer::Json LanguageServer::Complete(const Json& params) {
     for (Completion& completion : CompletionsAt(document, cursor, Index(), hasSnippets)) {
         Json item = {{"label", completion.label},
                      {"kind", completion.isKey ? 5 : 12},
-                     {"sortText", std::string(1, static_cast<char>('a' + std::min<std::size_t>(items.size(), 25))) +
-                                      std::to_string(100000 + items.size())},
+                     {"sortText", std::to_string(100000 + items.size())},
                      {"filterText", completion.filter},
                      {"textEdit",
                       {{"range", RangeOf(document, completion.begin, completion.end)}, {"newText", completion.text}}}};
@@ -311,31 +310,35 @@ LanguageServer::Json LanguageServer::Hover(const Json& params) {
             {"range", RangeOf(document, hover.begin, hover.end)}};
 }
 
-LanguageServer::Json LanguageServer::LocationOf(NameKind kind, std::u16string_view name, const NamePlace& place) {
-    const std::string uri = UriOfFile(place.file);
-    const auto open = documents.find(uri);
-    const std::string text = open == documents.end() ? TextOfFile(place.file) : std::string(open->second.Text());
-    const std::size_t at = DefinitionIn(text, kind, name);
-    const Position position = LineIndex(text).PositionOf(text, at, units);
-    const Json json = {{"line", position.line}, {"character", position.character}};
-    return {{"uri", uri}, {"range", {{"start", json}, {"end", json}}}};
+// What an editor has of a file goes before what the disk has. A file that cannot be read is empty.
+TextDocument& LanguageServer::ContentOf(const SourceFile& file, Contents& contents) {
+    const std::string uri = UriOfFile(file.name);
+    if (const auto open = documents.find(uri); open != documents.end()) {
+        return open->second;
+    }
+    const auto found = contents.find(uri);
+    if (found != contents.end()) {
+        return found->second;
+    }
+    InputFile input;
+    input.Read(file.name);
+    const SourceText text(input.Bytes());
+    return contents.emplace(uri, TextDocument(file.kind, {text.Start(), text.End()})).first->second;
+}
+
+LanguageServer::Json LanguageServer::LocationOf(NameKind kind, std::u16string_view name, const SourceFile& file,
+                                                Contents& contents) {
+    const TextDocument& content = ContentOf(file, contents);
+    const std::size_t place = DefinitionIn(content.Text(), kind, name);
+    return {{"uri", UriOfFile(file.name)}, {"range", RangeOf(content, place, place)}};
 }
 
 LanguageServer::Json LanguageServer::Definition(const Json& params) {
     TextDocument& document = DocumentOf(params);
     const NameAtCursor name = NameAt(document, ByteOf(document, params.at("position")), UriIn(params));
-    const NamePlace* place = Index().Find(name.kind, name.name);
-    return place == nullptr ? Json() : LocationOf(name.kind, name.name, *place);
-}
-
-// The text of a content as UTF-8; empty for a binary file and for one that cannot be read.
-std::string LanguageServer::TextOfFile(const std::string& file) {
-    InputFile input;
-    if (!input.Read(file).empty() || input.Bytes().starts_with("BIN")) {
-        return {};
-    }
-    const SourceText text(input.Bytes());
-    return {text.Start(), text.End()};
+    const SourceFile* file = Index().Find(name.kind, name.name);
+    Contents contents;
+    return file == nullptr ? Json() : LocationOf(name.kind, name.name, *file, contents);
 }
 
 LanguageServer::Json LanguageServer::References(const Json& params) {
@@ -345,10 +348,10 @@ LanguageServer::Json LanguageServer::References(const Json& params) {
     if (name.kind == NameKind::None) {
         return locations;
     }
-    if (params.value("/context/includeDeclaration"_json_pointer, true)) {
-        if (const NamePlace* place = Index().Find(name.kind, name.name)) {
-            locations.push_back(LocationOf(name.kind, name.name, *place));
-        }
+    const SourceFile* definition = Index().Find(name.kind, name.name);
+    if (definition != nullptr && params.value("/context/includeDeclaration"_json_pointer, true)) {
+        Contents contents;
+        locations.push_back(LocationOf(name.kind, name.name, *definition, contents));
     }
     const auto addFrom = [&](const std::string& uri, TextDocument& content) {
         for (const auto& [begin, end] : ReferencesIn(content, name)) {
@@ -356,10 +359,10 @@ LanguageServer::Json LanguageServer::References(const Json& params) {
         }
     };
     for (const SourceFile& file : Index().Files()) {
-        const std::string uri = UriOfFile(file.name);
-        if (!documents.contains(uri)) {
-            TextDocument content(file.kind, TextOfFile(file.name));
-            addFrom(uri, content);
+        if (const std::string uri = UriOfFile(file.name); !documents.contains(uri)) {
+            // One at a time, however many there are.
+            Contents contents;
+            addFrom(uri, ContentOf(file, contents));
         }
     }
     for (auto& [uri, content] : documents) {
@@ -406,18 +409,20 @@ LanguageServer::Json LanguageServer::Foldings(const Json& params) {
 LanguageServer::Json LanguageServer::WorkspaceSymbols(const Json& params) {
     const std::u16string query = ToUnits(params.at("query").get<std::string>());
     Json symbols = Json::array();
+    Contents contents;
     for (const NameKind kind : {NameKind::Entity, NameKind::Particle, NameKind::Mesh, NameKind::Brush}) {
-        for (const auto& [name, place] : Index().Of(kind)) {
-            if (ContainsIgnoringCase(name, query)) {
-                const Json start = {{"line", 0}, {"character", 0}};
-                symbols.push_back(
-                    {{"name", ToUtf8(name)},
-                     {"kind", 5},
-                     {"containerName", KnownNames::WhatIs(kind)},
-                     {"location", kind == NameKind::Brush ? LocationOf(kind, name, place)
-                                                          : Json{{"uri", UriOfFile(place.file)},
-                                                                 {"range", {{"start", start}, {"end", start}}}}}});
+        for (const auto& [name, file] : Index().Of(kind)) {
+            if (!ContainsIgnoringCase(name, query)) {
+                continue;
             }
+            const Json start = {{"line", 0}, {"character", 0}};
+            const Json location = kind == NameKind::Brush ? LocationOf(kind, name, *file, contents)
+                                                          : Json{{"uri", UriOfFile(file->name)},
+                                                                 {"range", {{"start", start}, {"end", start}}}};
+            symbols.push_back({{"name", ToUtf8(name)},
+                               {"kind", 5},
+                               {"containerName", KnownNames::WhatIs(kind)},
+                               {"location", location}});
         }
     }
     return symbols;

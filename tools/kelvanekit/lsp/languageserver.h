@@ -72,8 +72,10 @@ private:
     Json RangeOf(const TextDocument& document, std::size_t begin, std::size_t end) const;
     Json RangeOf(const TextDocument& document, const FindingPlace& place) const;
     std::size_t ByteOf(const TextDocument& document, const Json& position) const;
-    Json LocationOf(NameKind kind, std::u16string_view name, const NamePlace& place);
-    std::string TextOfFile(const std::string& file);
+    // Contents that are looked into for one request, by their URIs.
+    using Contents = std::map<std::string, TextDocument>;
+    TextDocument& ContentOf(const SourceFile& file, Contents& contents);
+    Json LocationOf(NameKind kind, std::u16string_view name, const SourceFile& file, Contents& contents);
 
     const Send send;
     PositionUnits units = PositionUnits::Utf16;

@@ -12,15 +12,14 @@ void WorkspaceIndex::Walk(const std::vector<std::string>& folders) {
     SourceOptions options;
     options.names = folders;
     files = FindSources(options).files;
-    KnownNames names;
-    AddContents(files, names, [&](NameKind kind, const std::u16string& name, const SourceFile& file) {
-        places[static_cast<std::size_t>(kind)].emplace(name, NamePlace{file.name});
+    FindNames(files, [&](const std::u16string& name, const SourceFile& file) {
+        definitions[static_cast<std::size_t>(NameKindOf(file.kind))].emplace(name, &file);
     });
 }
 
-const NamePlace* WorkspaceIndex::Find(NameKind kind, std::u16string_view name) const {
+const SourceFile* WorkspaceIndex::Find(NameKind kind, std::u16string_view name) const {
     const auto found = Of(kind).find(std::u16string(name));
-    return found == Of(kind).end() ? nullptr : &found->second;
+    return found == Of(kind).end() ? nullptr : found->second;
 }
 
 } // namespace Vorn

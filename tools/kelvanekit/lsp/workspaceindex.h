@@ -10,13 +10,6 @@
 
 namespace Vorn {
 
-// Where something is defined that contents refer to.
-struct NamePlace {
-    std::string file;
-    // From 0; of a file as a whole, the first.
-    std::int32_t line = 0;
-};
-
 // The contents below some folders, and the names that they define.
 class WorkspaceIndex {
 public:
@@ -25,15 +18,15 @@ public:
 
     const std::vector<SourceFile>& Files() const { return files; }
 
-    // The names of a kind with their places. A name that is defined twice has its first place.
-    using Places = std::map<std::u16string, NamePlace>;
-    const Places& Of(NameKind kind) const { return places[static_cast<std::size_t>(kind)]; }
-    // Where a name is defined, as a check looks it up; null if nowhere.
-    const NamePlace* Find(NameKind kind, std::u16string_view name) const;
+    // The names of a kind with the files that define them, of several the first.
+    using Definitions = std::map<std::u16string, const SourceFile*>;
+    const Definitions& Of(NameKind kind) const { return definitions[static_cast<std::size_t>(kind)]; }
+    // The file that defines a name; null if there is none.
+    const SourceFile* Find(NameKind kind, std::u16string_view name) const;
 
 private:
     std::vector<SourceFile> files;
-    std::array<Places, KnownNames::kKinds> places;
+    std::array<Definitions, KnownNames::kKinds> definitions;
 };
 
 } // namespace Vorn

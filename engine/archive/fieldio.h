@@ -164,12 +164,13 @@ public:
     // Grows entry by entry, however large the count is.
     template <class T, class Entry>
     void GrowingList(Label countLabel, DynamicVector<T>& list, Entry entry) {
-        if (reading) {
-            list.Clear();
-            ReadEntries(ReadCount({countLabel, ListRule::Growing}), [&](std::int32_t) { entry(list.Append()); });
-        } else {
-            WriteList(countLabel, list, entry);
-        }
+        TransferGrowing({countLabel, ListRule::Growing}, list, entry);
+    }
+
+    // Like GrowingList; the record that it belongs to reports more than `limit` elements.
+    template <class T, class Entry>
+    void ReportedList(Label countLabel, std::int32_t limit, DynamicVector<T>& list, Entry entry) {
+        TransferGrowing({countLabel, ListRule::Reported, limit}, list, entry);
     }
 
     // A growing list that reserves memory for the whole count at once. Too much ends the process, see ListRoom.
@@ -282,6 +283,16 @@ private:
             archive.Read(label, value);
         } else {
             archive.Write(label, static_cast<const T&>(value));
+        }
+    }
+
+    template <class T, class Entry>
+    void TransferGrowing(const ListShape& shape, DynamicVector<T>& list, Entry entry) {
+        if (reading) {
+            list.Clear();
+            ReadEntries(ReadCount(shape), [&](std::int32_t) { entry(list.Append()); });
+        } else {
+            WriteList(shape.countLabel, list, entry);
         }
     }
 

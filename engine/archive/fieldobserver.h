@@ -17,6 +17,8 @@ enum class ListRule {
     Fatal,
     // There is no limit.
     Growing,
+    // A surplus is kept, and the record reports it.
+    Reported,
     // There is no limit, and memory is reserved for the whole count at once.
     Reserved,
     // There is no limit, the size of the array is the count, and a missing count is reported.
@@ -35,8 +37,13 @@ struct ListShape {
 
     Label countLabel;
     ListRule rule;
-    // Entries that are kept, or kUnlimited.
+    // The entries that there may be, or kUnlimited.
     std::int32_t limit = kUnlimited;
+
+    // Whether so many entries are kept.
+    bool HasRoomFor(std::int32_t count) const {
+        return limit == kUnlimited || rule == ListRule::Reported || count <= limit;
+    }
 };
 
 // Gets what the list of fields knows and an archive cannot see, while a record is read. FieldIo calls it right before

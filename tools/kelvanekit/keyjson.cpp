@@ -18,8 +18,8 @@ constexpr int kFormat = 1;
 constexpr const char* kKinds[] = {"color", "rectangle", "size",   "point", "quad", "matrix44", "matrix33", "vector3",
                                   "int64", "truth",     "double", "float", "int",  "uint",     "text",     "record"};
 constexpr const char* kNames[] = {nullptr, "entity", "particle", "brush", "mesh", "texture", "sound", "string"};
-constexpr const char* kRules[] = {"bounded", "capped", "fatal", "growing", "reserved",
-                                  "sized",   "keyed",  "exact", "derived"};
+constexpr const char* kRules[] = {"bounded",  "capped", "fatal", "growing", "reported",
+                                  "reserved", "sized",  "keyed", "exact",   "derived"};
 
 template <class Enum, std::size_t N>
 const char* TextOf(const char* const (&texts)[N], Enum value) {

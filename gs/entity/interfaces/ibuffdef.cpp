@@ -26,8 +26,8 @@ void IBuffDef::Fields(FieldIo& io) {
 }
 
 void IBuffDef::ListFields(FieldIo& io) {
-    io.GrowingList(u"numInstantActions", instantActions, io.Records(u"instantAction"));
-    io.GrowingList(u"numPeriodicActions", periodicActions, io.Records(u"periodicAction"));
+    io.ReportedList(u"numInstantActions", kMaxInstantActions, instantActions, io.Records(u"instantAction"));
+    io.ReportedList(u"numPeriodicActions", kMaxPeriodicActions, periodicActions, io.Records(u"periodicAction"));
     io.GrowingList(u"numOverTimeActions", overTimeActions, io.Records(u"overTimeAction"));
     io.GrowingList(u"numEntityModifiers", entityModifiers, io.Records(u"entityModifier"));
     io.GrowingList(u"numEntityBoolModifiers", entityBoolModifiers, io.Enums(u"entityBoolModifier"));

@@ -24,6 +24,10 @@ std::string Quoted(const std::string& text) {
 
 } // namespace
 
+bool EndsIfFlawed(const Json& key) {
+    return TextOf(key, "rule") == "fatal" || key.contains("ends");
+}
+
 const KeyModel& AllKeys() {
     static const KeyModel model = DescribeKeys();
     return model;
@@ -38,15 +42,6 @@ std::vector<std::string> KeyFiles::Write(const Json& file, int _version, Flaw _f
     possibleReports.clear();
     WriteRecord(file, 0);
     return lines;
-}
-
-void KeyFiles::FindDeciding(const Json& keys) {
-    for (const Json& key : keys) {
-        for (const Json& condition : key.value("if", Json::array())) {
-            deciding.insert(condition.at("key"));
-        }
-        FindDeciding(key.value("entry", Json::array()));
-    }
 }
 
 void KeyFiles::WriteRecord(const Json& record, int depth) {
@@ -163,10 +158,7 @@ std::string KeyFiles::Choose(const Json& key) {
         return Quoted(std::exchange(keyedText, {}));
     }
     std::vector<std::string> allowed = reference.at("choices").at(TextOf(key, "choices"));
-    // No author would have a text that is none and yet decides.
-    if (!deciding.contains(key.at("key"))) {
-        allowed.emplace_back("Invalid");
-    }
+    allowed.emplace_back("Invalid");
     for (const std::string& text : key.value("ends", std::vector<std::string>())) {
         std::erase(allowed, text);
     }
@@ -179,7 +171,7 @@ std::string KeyFiles::Choose(const Json& key) {
     const std::vector<std::string>& from = open.empty() ? allowed : open;
     const std::string text = from[static_cast<std::size_t>(Number(0, static_cast<int>(from.size()) - 1))];
     texts[&key].insert(text);
-    return Quoted(!key.contains("ends") && TakeFlaw(key, Flaw::TextUnknown) ? "None of " + text : text);
+    return Quoted(TakeFlaw(key, Flaw::TextUnknown) ? "None of " + text : text);
 }
 
 // A number whose decimals survive; an angle that survives radians too.
@@ -236,9 +228,7 @@ void KeyFiles::WriteList(const Json& key, const Json& record, int depth, Values&
         WriteKeyedList(key, record, depth, values);
         return;
     }
-    const bool isLimited =
-        rule == "bounded" || rule == "capped" || rule == "exact" || (rule == "fatal" && flawed.empty());
-    if (isLimited && TakeFlaw(key, Flaw::ListTooLong)) {
+    if (key.contains("limit") && TakeFlaw(key, Flaw::ListTooLong)) {
         count = key.value("limit", 0) + 1;
     }
     Put(depth, std::string(key.at("key")) + ' ' + std::to_string(count));
@@ -274,8 +264,8 @@ void KeyFiles::WriteKeyedList(const Json& key, const Json& record, int depth, Va
 }
 
 bool KeyFiles::TakeFlaw(const Json& key, Flaw kind) {
-    const bool isLast = !flawed.empty() && flawed.back()->value("rule", std::string()) == "fatal";
-    if (flaw != kind || isLast || key.contains("fixed") || !flawsDone.emplace(kind, &key).second) {
+    const bool endsHere = !flawed.empty() && (EndsIfFlawed(key) || EndsIfFlawed(*flawed.back()));
+    if (flaw != kind || endsHere || key.contains("fixed") || !flawsDone.emplace(kind, &key).second) {
         return false;
     }
     flawed.push_back(&key);

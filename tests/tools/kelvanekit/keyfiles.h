@@ -18,6 +18,9 @@ const KeyModel& AllKeys();
 // What is wrong with one key of a file on purpose.
 enum class Flaw { None, ListTooLong, TextTooLong, TextUnknown };
 
+// Whether a conversion ends where a key has its flaw.
+bool EndsIfFlawed(const nlohmann::json& key);
+
 // Writes text files by the JSON form of the key reference alone: random values in range, and those first that were not
 // written before.
 class KeyFiles {
@@ -27,7 +30,6 @@ public:
     KeyFiles(const Json& _reference, unsigned seed) : reference(_reference), random(seed) {
         for (const Json& record : reference.at("records")) {
             records[record.at("name")] = &record;
-            FindDeciding(record.at("keys"));
         }
     }
 
@@ -51,7 +53,6 @@ private:
     // The values of the keys in a record so far; the latest one of a key counts.
     using Values = std::vector<std::pair<std::string, std::string>>;
 
-    void FindDeciding(const Json& keys);
     void WriteRecord(const Json& record, int depth);
     void WriteKeys(const Json& keys, const Json& record, int depth, Values& values);
     void WriteKey(const Json& key, const Json& record, int depth, Values& values);
@@ -76,8 +77,6 @@ private:
     const Json& reference;
     std::mt19937 random;
     std::map<std::string, const Json*> records;
-    // Keys that others depend on.
-    std::set<std::string> deciding;
     std::vector<std::string> lines;
     int version = 0;
     Flaw flaw = Flaw::None;

@@ -104,8 +104,8 @@ TEST(NewTest, WhatCannotBeIsSaid) {
     EXPECT_EQ(ProblemOf("Frigate", {{"hasLevels", "true"}}), "'true' is neither TRUE nor FALSE");
     EXPECT_EQ(ProblemOf("Frigate", {{"armorType", "light"}}), "'light' is no text of armorType; did you mean `Light`?");
     EXPECT_EQ(ProblemOf("Frigate", {{"NumWeapons", "-1"}}), "'-1' is no whole number that NumWeapons can have");
-    EXPECT_EQ(ProblemOf("brushes", {{"content", "States"}}),
-              "`content \"States\"` does not stay with the defaults of the keys that depend on it");
+    EXPECT_EQ(ProblemOf("brushes", {{"content", "Invalid"}}),
+              "`content \"Invalid\"` does not stay with the defaults of the keys that depend on it");
     EXPECT_EQ(ProblemOf("particle", {{"EmitterType", "MeshSurface"}}),
               "a conversion ends with 'EmitterType MeshSurface'");
 }

@@ -98,7 +98,7 @@ bool FieldReader::IsListFlawed() const {
     }
     const OpenList& list = lists.back();
     return list.shape.rule == ListRule::Keyed || list.shape.rule == ListRule::Exact ||
-           (list.shape.limit != ListShape::kUnlimited && std::max(list.count, list.entries) > list.shape.limit);
+           !list.shape.HasRoomFor(std::max(list.count, list.entries));
 }
 
 bool FieldReader::OnEntry(std::int32_t entry) {
@@ -222,7 +222,7 @@ void FieldReader::NoteCount(const OpenList& list) {
     const std::int32_t limit = list.shape.limit;
     const std::int32_t most = std::max(list.entries, list.count);
     const bool isValueCounted = !list.isDoubtful || list.count != 0;
-    if (limit != ListShape::kUnlimited && most > limit && list.shape.rule != ListRule::Keyed) {
+    if (!list.shape.HasRoomFor(most) && list.shape.rule != ListRule::Keyed) {
         Add(Code("list-too-long"), list.ask,
             "the list has " + std::to_string(most) + " entries, and there is room for " + std::to_string(limit) +
                 (list.shape.rule == ListRule::Fatal ? ": a conversion ends abnormally" : ": the others are lost"));

@@ -18,10 +18,13 @@ bool DescribedField::IsChoice() const {
     if (role == Role::Version || role == Role::List) {
         return true;
     }
-    // The numbers of a place are the same.
-    const bool isNumber =
-        kind == FieldKind::Int || kind == FieldKind::Uint || kind == FieldKind::Float || kind == FieldKind::Point;
-    return role == Role::Field && (table != nullptr || kind == FieldKind::Bool || isNumber);
+    return role == Role::Field && (table != nullptr || kind == FieldKind::Bool || IsNumber());
+}
+
+bool DescribedField::IsNumber() const {
+    constexpr FieldKind kNumbers[] = {FieldKind::Int, FieldKind::Uint, FieldKind::Float, FieldKind::Point,
+                                      FieldKind::Rectangle};
+    return role == Role::Field && table == nullptr && std::ranges::find(kNumbers, kind) != std::end(kNumbers);
 }
 
 std::vector<std::int32_t> DescribedField::Values() const {

@@ -51,6 +51,9 @@ struct DescribedField {
     // Whether the fields behind it may depend on it.
     bool IsChoice() const;
 
+    // Whether it is a number, or several numbers that are the same here.
+    bool IsNumber() const;
+
     // The values that are tried of a choice, in ascending order.
     std::vector<std::int32_t> Values() const;
 };

@@ -136,6 +136,11 @@ void DescribingArchive::ReadValue(Label label, Value& value) {
             value = {answer->value, answer->value};
         }
         field.value = value.x;
+    } else if constexpr (std::is_same_v<Value, Rectangle>) {
+        if (const Answer* answer = FindAnswer(answers, field.place)) {
+            value = Rectangle::FromExtent(answer->value, answer->value, answer->value, answer->value);
+        }
+        field.value = value.left;
     } else if constexpr (std::is_same_v<Value, float>) {
         const Answer* answer = FindAnswer(answers, field.place);
         if (answer != nullptr) {

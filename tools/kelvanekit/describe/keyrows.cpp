@@ -70,6 +70,8 @@ std::string ListInWords(const KeyDescription& key) {
     case ListRule::Growing:
     case ListRule::Reserved:
         return "the number of entries";
+    case ListRule::Reported:
+        return "the number of entries, up to " + limit + "; a surplus is reported and kept";
     case ListRule::Sized:
         return "the number of entries, which may not be missing";
     case ListRule::Keyed:

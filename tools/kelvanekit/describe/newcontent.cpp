@@ -98,13 +98,29 @@ public:
                                  std::to_string(kArchiveVersion) + '\n' + WriteContent(content, FileArchiveType::Text);
         ContentConverter converter;
         converter.Convert(form.kind, "new", text, FileArchiveType::Text);
-        std::string written(converter.Bytes());
-        for (const std::string& line : wantedLines) {
-            if (written.find(line) == std::string::npos) {
-                throw WantedProblem{"`" + line + "` does not stay with the defaults of the keys that depend on it"};
+        return std::string(converter.Bytes());
+    }
+
+    // Parts that are alike may be written as one. Numbers of their own tell them apart.
+    void TellPartsApart() {
+        Answers answers = trial.answers;
+        std::int32_t number = 0;
+        for (const DescribedField& field : trial.fields) {
+            if (field.IsNumber() && IsFree(field)) {
+                answers = With(std::move(answers), field.place, ++number);
             }
         }
-        return written;
+        auto apart = Run(answers, DescribingArchive::kEverywhere);
+        if (apart && ReportCount(*apart) <= ReportCount(trial)) {
+            trial = std::move(*apart);
+        }
+    }
+
+    // The first line of the wanted ones that a text does not have, or null.
+    const std::string* FindLost(std::string_view text) const {
+        const auto lost = std::ranges::find_if(
+            wantedLines, [&](const std::string& line) { return text.find(line) == std::string_view::npos; });
+        return lost == wantedLines.end() ? nullptr : &*lost;
     }
 
 private:
@@ -258,7 +274,15 @@ std::string MakeContent(const ContentForm& form, const std::vector<WantedValue>&
         maker.Take(value);
     }
     maker.AvoidReports();
-    return maker.Write();
+    std::string text = maker.Write();
+    if (maker.FindLost(text) != nullptr) {
+        maker.TellPartsApart();
+        text = maker.Write();
+    }
+    if (const std::string* lost = maker.FindLost(text)) {
+        throw WantedProblem{"`" + *lost + "` does not stay with the defaults of the keys that depend on it"};
+    }
+    return text;
 }
 
 } // namespace Vorn

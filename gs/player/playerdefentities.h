@@ -8,15 +8,16 @@ namespace Vorn {
 
 // What a player can build and research.
 struct PlayerDefEntities : Record {
-    using Group = GroupedEntityDefNames<9>;
+    template <class Name>
+    using Group = GroupedEntityDefNames<9, Name>;
 
     static constexpr int kMaxPageCount = 2;
     static const Label kPageLabels[kMaxPageCount];
 
     // Names on the pages of a build menu.
-    template <int N>
+    template <class Name, int N>
     struct Pages : Record {
-        FixedArray<Group, N> pages;
+        FixedArray<Group<Name>, N> pages;
 
         void Fields(FieldIo& io) override {
             for (int i = 0; i < N; ++i) {
@@ -25,19 +26,20 @@ struct PlayerDefEntities : Record {
         }
     };
 
-    struct FrigateInfo : Pages<2> {
-        Group notOnPage;
+    using FrigateName = EntityDefNameOf<EntityType::Frigate>;
+    struct FrigateInfo : Pages<FrigateName, 2> {
+        Group<FrigateName> notOnPage;
 
         void Fields(FieldIo& io) override;
     };
 
-    Pages<2> planetModuleInfo;
-    Pages<1> titanInfo;
-    Pages<1> capitalShipInfo;
+    Pages<PlanetModuleDefName, 2> planetModuleInfo;
+    Pages<EntityDefNameOf<EntityType::Titan>, 1> titanInfo;
+    Pages<EntityDefNameOf<EntityType::CapitalShip>, 1> capitalShipInfo;
     FrigateInfo frigateInfo;
     EntityDefNameDynamicVector<EntityType::ResearchSubject> researchInfo;
     EntityDefNameDynamicVector<EntityType::StarBase> starBaseInfo;
-    EntityDefName flagship;
+    ShipDefName flagship;
 
     void Fields(FieldIo& io) override;
 };

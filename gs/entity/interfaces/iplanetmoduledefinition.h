@@ -56,7 +56,7 @@ struct IPlanetModuleDefinition : Record {
     float nearPlacementDistOffset = -1.0f;
     float farPlacementDistOffset = -1.0f;
     std::uint32_t spawnCount = 0;
-    EntityDefName swapMineType;
+    EntityDefNameOf<EntityType::SpaceMine> swapMineType;
 
     void Fields(FieldIo& io) override;
 

@@ -41,7 +41,7 @@ struct BuffActionValues {
     EntityDefNameOf<EntityType::SpaceMine> spaceMineType;
     EntityDefNameOf<EntityType::Frigate> frigateType;
     EntityDefNameOf<EntityType::Buff> postSpawnBuff;
-    EntityDefName planetModuleType;
+    PlanetModuleDefName planetModuleType;
     EntityDefNameOf<EntityType::Squad> squadType;
     EntityDefNameOf<EntityType::StarBase> starBaseType;
     EntityDefNameOf<EntityType::CannonShell> cannonShellType;

@@ -7,7 +7,7 @@ namespace Vorn {
 
 // The cargo ships that a structure sends out and replaces.
 struct CargoShipControllerDef : Record {
-    EntityDefName cargoShipType;
+    EntityDefNameOf<EntityType::Frigate> cargoShipType;
     std::uint32_t maxCargoShipCount = 0;
     float cargoShipRespawnTime = 0.0f;
 

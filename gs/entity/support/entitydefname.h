@@ -37,6 +37,11 @@ public:
     std::uint64_t GetNameClasses() const override { return (... | (std::uint64_t{1} << static_cast<int>(types))); }
 };
 
+using ShipDefName = EntityDefNameOf<EntityType::CapitalShip, EntityType::Frigate, EntityType::Titan>;
+using PlanetModuleDefName = EntityDefNameOf<EntityType::PlanetModuleHangarDefense, EntityType::PlanetModuleShipFactory,
+                                            EntityType::PlanetModuleStandard, EntityType::PlanetModuleTradePort,
+                                            EntityType::PlanetModuleRefinery, EntityType::PlanetModuleWeaponDefense>;
+
 // A list of names without a limit.
 template <EntityType... types>
 class EntityDefNameDynamicVector : public Record {
@@ -52,13 +57,13 @@ private:
 };
 
 // A list of at most N names; a surplus only fires the vector's check.
-template <int N>
+template <int N, class Name>
 class GroupedEntityDefNames : public Record {
 public:
     void Fields(FieldIo& io) override { io.CappedList(u"count", names, io.Values(u"entityDefName")); }
 
 private:
-    FixedVector<EntityDefName, N> names;
+    FixedVector<Name, N> names;
 };
 
 } // namespace Vorn

@@ -8,7 +8,7 @@ namespace Vorn {
 
 // Ships that are spawned in any case, in a number between two bounds.
 struct SpawnShipsRequiredEntity : Record {
-    EntityDefName type;
+    ShipDefName type;
     std::uint32_t minCount = 0;
     std::uint32_t maxCount = 0;
 
@@ -17,7 +17,7 @@ struct SpawnShipsRequiredEntity : Record {
 
 // Ships that may be drawn, the likelier the greater their weight.
 struct SpawnShipsRandomEntity : Record {
-    EntityDefName type;
+    ShipDefName type;
     std::uint32_t weight = 0;
 
     void Fields(FieldIo& io) override;

@@ -226,6 +226,60 @@ TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {
         EXPECT_EQ(findings[0].place.line, 3);
         EXPECT_EQ(findings[0].replacement, "\"Frigate\"");
     }
+    EXPECT_EQ(Shown(CheckContent(ContentKind::Entity,
+                                 Edited("mission_explore.entity", "\"MissionExplore\"", "\"PlanetConnection\""))),
+              "3 wrong-type entityType\n");
+}
+
+TEST(CheckTest, WhatOtherToolsLeaveIsTold) {
+    const auto told = [](const std::string& bytes) {
+        const Findings findings = CheckContent(ContentKind::Entity, bytes);
+        std::string result = std::to_string(findings.size());
+        for (const Finding& finding : findings) {
+            result += "; " + finding.message + "; " + finding.help;
+        }
+        return result;
+    };
+    const auto edited = [&](std::string_view to) {
+        return told(Edited("frigate_lancer.entity", "baseRange 4200.000000", to));
+    };
+    EXPECT_EQ(edited("// not farther\r\n# than that\r\nbaseRange 4200").substr(0, 49),
+              "2; a comment stands in the way of all keys behind");
+    EXPECT_EQ(edited("baseRange 42 // far"),
+              "1; `42 // far` is not a number as a whole: `42` is taken, and `// far` is lost; there are no comments: "
+              "take it out");
+    EXPECT_EQ(edited("<<<<<<< a\r\nbaseRange 1\r\n=======\r\nbaseRange 2\r\n>>>>>>> b").substr(0, 32),
+              "2; a merge was not finished here");
+    for (const char* attached : {"baseRange = 42", "baseRange: 42", "baseRange42", "baseRange\u00A042"}) {
+        EXPECT_EQ(edited(attached),
+                  "1; a blank, and nothing else, should stand between the key `baseRange` and its value; ");
+    }
+    EXPECT_EQ(told(Edited("frigate_lancer.entity", "\"Siege\"", "\u201CSiege\u201D")),
+              "1; `\u201CSiege\u201D` stands in other quotes than \"; write `\"Siege\"`");
+    const std::string& sound = SampleNamed("frigate_lancer.entity").bytes;
+    EXPECT_EQ(told(sound + sound.substr(3)),
+              "1; content behind the last key is left out; a second file seems to follow: take it out");
+    const std::size_t keys = sound.find("entityType");
+    EXPECT_EQ(told(sound.substr(keys)),
+              "1; the first line should be `TXT2`; a file begins with `TXT2` and the line of its version");
+    std::string returns = sound;
+    std::erase(returns, '\n');
+    EXPECT_EQ(told(returns).substr(0, 45), "1; the lines end in a carriage return alone: ");
+    EXPECT_EQ(told("").substr(0, 20), "1; the file is empty");
+    EXPECT_EQ(told({"T\0X\0T\0"
+                    "2\0",
+                    8})
+                  .substr(0, 47),
+              "1; the file is no text that can be read: perhap");
+}
+
+// What stands far from where a key of its name is missing has nothing to do with it.
+TEST(CheckTest, OnlyWhatStandsNearIsTakenForMoved) {
+    std::string bytes = Edited("frigate_lancer.entity", "\tLevel:1 15.000000\r\n", "");
+    EXPECT_EQ(Shown(CheckContent(ContentKind::Entity, bytes)), "13 missing-key baseDamage.Level:1\n");
+    bytes.insert(bytes.find("BuildTime"), "Level:1 15.000000\r\n");
+    EXPECT_EQ(Shown(CheckContent(ContentKind::Entity, bytes)),
+              "13 missing-key baseDamage.Level:1\n59 unexpected-line Level:1\n");
 }
 
 TEST(CheckTest, NamesAreLookedUp) {

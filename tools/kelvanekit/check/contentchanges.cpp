@@ -104,7 +104,7 @@ private:
             const bool isNewName = reader.GetVersion() >= kArchiveVersion || field.IsMissing() ||
                                    (line < lines.size() && lines[line].value == ValueOf(field));
             if (!isNewName && !IsEmptyValue(ValueOf(field)) && field.kind != FieldKind::Record &&
-                known.insert(SpotOf(field)).second && (line >= lines.size() || !IsReplaced())) {
+                !IsInFullList(field) && known.insert(SpotOf(field)).second && (line >= lines.size() || !IsReplaced())) {
                 Add(Code("not-kept"), field,
                     "version " + std::to_string(kArchiveVersion) + " has no place for it: it is lost");
             }
@@ -128,9 +128,15 @@ private:
     std::string_view ValueOf(const AskedField& field) const { return reader.ValueOf(field); }
 
     bool IsInList(const AskedField& field, ListRule rule) const {
+        return IsInList(field, [rule](const AskedField& list) { return list.rule == rule; });
+    }
+
+    // Whether a field is the count or in an entry of a list of some kind.
+    template <class IsWanted>
+    bool IsInList(const AskedField& field, IsWanted isWanted) const {
         for (const AskedField* at = &field;; at = &asks[static_cast<std::size_t>(at->parent)]) {
-            if ((at->isCount && at->rule == rule) ||
-                (at->list != kNone && asks[static_cast<std::size_t>(at->list)].rule == rule)) {
+            if ((at->isCount && isWanted(*at)) ||
+                (at->list != kNone && isWanted(asks[static_cast<std::size_t>(at->list)]))) {
                 return true;
             }
             if (at->parent == kNone) {
@@ -139,12 +145,20 @@ private:
         }
     }
 
+    // What is cut out of a list with too many entries is told at its count.
+    bool IsInFullList(const AskedField& field) const {
+        return IsInList(field, [](const AskedField& list) {
+            return list.capacity != ListShape::kUnlimited && list.value > list.capacity;
+        });
+    }
+
     void Compare(const AskedField& field, const WrittenLine& written) {
         if (field.IsMissing() || field.kind == FieldKind::Record) {
             return;
         }
         const std::string_view value = ValueOf(field);
-        if (IsSameValue(value, written.value) || known.contains(SpotOf(field)) || IsInList(field, ListRule::Keyed)) {
+        if (IsSameValue(value, written.value) || known.contains(SpotOf(field)) || IsInList(field, ListRule::Keyed) ||
+            IsInFullList(field)) {
             return;
         }
         const std::string becomes = '`' + std::string(written.value) + '`';

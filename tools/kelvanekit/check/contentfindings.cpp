@@ -210,28 +210,46 @@ std::vector<std::int32_t> AsksOf(const AskedFields& asks, const FailedCheck& che
     return result;
 }
 
+std::string LastKeyOf(const std::string& path) {
+    const std::string key = path.substr(path.rfind('.') + 1);
+    return key.substr(0, key.find('['));
+}
+
+std::string GroupOf(const std::string& path) {
+    return path.find('.') == std::string::npos ? std::string() : path.substr(0, path.rfind('.'));
+}
+
+// Whether what stands at one place is what lacks at another: in the same group, or not far away.
+bool CanBelong(const Finding& stray, const Finding& missing) {
+    constexpr std::int32_t kFarthestMove = 12;
+    const bool isOfKind = missing.code == Code("missing-section") ||
+                          (missing.code == Code("missing-key") && stray.code == Code("unexpected-line"));
+    return isOfKind && LastKeyOf(stray.key) == LastKeyOf(missing.key) &&
+           (GroupOf(stray.key) == GroupOf(missing.key) ||
+            std::abs(stray.place.line - missing.place.line) <= kFarthestMove);
+}
+
 } // namespace
 
 void JoinMoved(Findings& findings) {
-    const auto lastKeyOf = [](const Finding& finding) {
-        const std::string key = finding.key.substr(finding.key.rfind('.') + 1);
-        return key.substr(0, key.find('['));
-    };
     for (Finding& stray : findings) {
-        if (stray.code != Code("unexpected-line") && stray.code != Code("unexpected-section")) {
+        if (stray.key.empty() || (stray.code != Code("unexpected-line") && stray.code != Code("unexpected-section"))) {
             continue;
         }
-        const auto missing = std::ranges::find_if(findings, [&](const Finding& finding) {
-            return (finding.code == Code("missing-key") || finding.code == Code("missing-section")) &&
-                   !stray.key.empty() && lastKeyOf(finding) == lastKeyOf(stray);
-        });
-        if (missing != findings.end()) {
+        const auto distance = [&](const Finding& missing) { return std::abs(missing.place.line - stray.place.line); };
+        Finding* nearest = nullptr;
+        for (Finding& missing : findings) {
+            if (CanBelong(stray, missing) && (nearest == nullptr || distance(missing) < distance(*nearest))) {
+                nearest = &missing;
+            }
+        }
+        if (nearest != nullptr) {
             stray.code = Code("moved-line");
             stray.message =
-                Quoted(lastKeyOf(stray)) + " belongs behind line " + std::to_string(missing->place.line - 1);
+                Quoted(LastKeyOf(stray.key)) + " belongs behind line " + std::to_string(nearest->place.line - 1);
             stray.help = "move it to its place";
-            stray.key = missing->key;
-            missing->code = nullptr;
+            stray.key = nearest->key;
+            nearest->code = nullptr;
         }
     }
     std::erase_if(findings, [](const Finding& finding) { return finding.code == nullptr; });

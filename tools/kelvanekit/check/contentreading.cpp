@@ -24,6 +24,13 @@ std::string_view FirstLine(const char* start) {
     return {start, std::strcspn(start, "\r\n")};
 }
 
+// Whether lines end in a carriage return alone, so that the whole file is one line.
+bool HasReturnsAlone(const SourceText& text) {
+    const std::string_view first = FirstLine(text.Start());
+    const char* end = first.data() + first.size();
+    return end + 1 < text.End() && *end == '\r' && end[1] != '\n' && text.LineCount() == 1;
+}
+
 } // namespace
 
 ContentReading::ContentReading(ContentKind _kind, std::string_view _bytes, const KnownNames* _names)
@@ -68,7 +75,7 @@ bool ContentReading::ReadFields(bool keepsValues) {
         reader = std::make_unique<BinaryReader>(bytes, FieldReader::Mode::Noting, names);
     } else if (IsForeign()) {
         findings.clear();
-        Add(Code("not-content"), 0, "the file is no content: its first line has no TXT in it");
+        NoteForeign();
         return false;
     } else {
         reader = std::make_unique<TextReader>(*text, header, FieldReader::Mode::Noting, names, FindMends());
@@ -128,6 +135,7 @@ void ContentReading::ReadHeader() {
         header = {0, true, false, true};
     } else if (isVersionFirst || (!HasMark(first) && !isVersionSecond)) {
         Add(Code("missing-header"), 0, "the first line should be `TXT2`");
+        findings.back().help = isVersionFirst ? "" : "a file begins with `TXT2` and the line of its version";
         header = {0, isVersionFirst};
     } else {
         Add(Code("missing-header"), 0, Quoted(Trimmed(first).substr(0, 80)) + " stands where `TXT2` belongs");
@@ -136,18 +144,39 @@ void ContentReading::ReadHeader() {
 
 // Whether nothing speaks for a content file: no header, no version, and not one of the first keys.
 bool ContentReading::IsForeign() const {
+    if (HasReturnsAlone(*text)) {
+        return true;
+    }
     if (header.firstLine != 0 || header.hasVersion) {
         return false;
     }
     LoadedContent probed(kind);
     TextReader probing(*text, header, FieldReader::Mode::Probing, nullptr);
-    probing.Read(probed);
+    if (probing.Read(probed)) {
+        return false;
+    }
     const Mismatch& at = probing.GetMismatch();
     const auto isProbed = [&](std::int32_t line) {
         return std::ranges::any_of(
             at.probes, [&](const ProbedField& probe) { return IsLabel(KeyOf(text->Line(line)), probe.label); });
     };
     return at.line == 0 && !isProbed(0) && !isProbed(1) && !isProbed(2);
+}
+
+void ContentReading::NoteForeign() {
+    constexpr std::size_t kLookedAt = 64;
+    if (bytes.empty()) {
+        Add(Code("not-content"), 0, "the file is empty");
+        findings.back().help = "`kelvane-kit new` makes a file to begin with";
+    } else if (bytes.substr(0, kLookedAt).find('\0') != std::string_view::npos) {
+        Add(Code("not-content"), 0, "the file is no text that can be read: perhaps it is UTF-16 without a mark");
+        findings.back().help = "save it as UTF-8";
+    } else if (HasReturnsAlone(*text)) {
+        Add(Code("not-content"), 0, "the lines end in a carriage return alone: the whole file counts as one line");
+        findings.back().help = "save it with line feeds at the ends of lines";
+    } else {
+        Add(Code("not-content"), 0, "the file is no content: its first line is not `TXT2`");
+    }
 }
 
 // Counts that were left open are those that were found.

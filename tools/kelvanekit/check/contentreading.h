@@ -34,6 +34,7 @@ private:
     bool IsKept(const FieldReader& strict, LoadedContent& read, FileArchiveType form, std::string_view fields) const;
     void ReadHeader();
     bool IsForeign() const;
+    void NoteForeign();
     Mends FindMends() const;
     void NoteEnd();
     void Add(const FindingCode* code, std::int32_t line, std::string message);

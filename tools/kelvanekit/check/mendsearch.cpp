@@ -1,6 +1,7 @@
 #include "tools/kelvanekit/check/mendsearch.h"
 
-#include "tools/kelvanekit/findings/nearest.h"
+#include "engine/archive/archiveheader.h"
+#include "tools/kelvanekit/check/likeness.h"
 
 #include <algorithm>
 #include <memory>
@@ -15,18 +16,23 @@ namespace {
 // Lines that have to fit behind a mend before it is settled.
 constexpr std::int32_t kSettledAfter = 12;
 constexpr int kMostTrialsPerMistake = 400;
+constexpr int kMostTrialsPerGuess = 120;
 // Lines that all trials together may pass, and how often those of a large file.
 constexpr std::int64_t kMostTriedLines = 800000;
 constexpr std::int64_t kMostReadings = 60;
+// Mends in a row that nothing confirms: what follows them has nothing to do with the keys.
+constexpr int kMostGuesses = 16;
 constexpr std::int32_t kFarthestLine = 48;
 constexpr std::size_t kRecentChoices = 6;
+// The type of a content stands behind its version.
+constexpr std::int32_t kLastTypeAsk = 2;
 
 // What a mistake of a kind weighs. Those that authors make more often weigh less; findings that are there anyhow
 // weigh nearly nothing.
 namespace Weight {
 constexpr double kKnown = 0.05;
 constexpr double kDoubtfulChoice = 0.1;
-constexpr double kBlankLine = 0.5;
+constexpr double kRemark = 0.5;
 constexpr double kSameLine = 0.9;
 constexpr double kMisspelt = 0.92;
 constexpr double kCount = 0.95;
@@ -35,6 +41,7 @@ constexpr double kOneLine = 1.0;
 constexpr double kSwapped = 1.05;
 constexpr double kGroup = 1.2;
 constexpr double kRest = 1.3;
+constexpr double kEntry = 2.2;
 constexpr double kFirstChoice = 1.5;
 constexpr double kOtherKey = 1.7;
 constexpr double kChoice = 2.1;
@@ -61,36 +68,6 @@ struct IsHeavier {
 
 using Queue = std::priority_queue<TrialPtr, std::vector<TrialPtr>, IsHeavier>;
 
-bool IsLike(std::string_view key, Label label) {
-    const std::u16string units = ToUnits(key);
-    const std::u16string_view candidates[] = {label};
-    return NearestOf(units, candidates) != kNoneNear ||
-           (units.size() > label.size() && units.starts_with(label) && label.size() > 2);
-}
-
-// Whether a value looks like one of the kind.
-bool FitsKind(std::string_view value, FieldKind kind) {
-    value = Trimmed(value);
-    const char first = value.empty() ? ' ' : value[0];
-    switch (kind) {
-    case FieldKind::Text:
-        return first == '"';
-    case FieldKind::Bool:
-        return first == 'T' || first == 'F';
-    case FieldKind::Record:
-    case FieldKind::Matrix33:
-    case FieldKind::Matrix44:
-        return value.empty();
-    case FieldKind::Color:
-    case FieldKind::Int:
-    case FieldKind::Uint:
-    case FieldKind::Float:
-        return first != '"' && first != '[' && first != 'T' && first != 'F' && first != ' ';
-    default:
-        return first == '[';
-    }
-}
-
 class MendSearch {
 public:
     MendSearch(ContentKind _kind, const SourceText& _text, const TextHeader& _header)
@@ -101,11 +78,12 @@ public:
         TrialPtr root = std::make_shared<Trial>();
         Try(*root);
         while (!root->isRead && triedLines < mostTriedLines) {
-            TrialPtr next = MendOnce(*root);
-            if (next == nullptr) {
+            const Next next = MendOnce(*root);
+            guesses = next.isSettled ? 0 : guesses + 1;
+            if (next.trial == nullptr || guesses > kMostGuesses) {
                 break;
             }
-            root = next;
+            root = next.trial;
         }
         JoinSkips(root->mends);
         return root->mends;
@@ -139,8 +117,18 @@ private:
         triedLines += 20 + (trial.isRead ? text.LineCount() : trial.mismatch.line);
     }
 
-    // The trial of least weight that settles the first mistake of `start`, and others close behind it.
-    TrialPtr MendOnce(const Trial& start) {
+    struct Next {
+        TrialPtr trial;
+        // Enough lines fit behind the mend.
+        bool isSettled;
+    };
+
+    // The trial of least weight that settles the first mistake of `start`, and others close behind it; if there is
+    // none, the one that comes farthest, or null.
+    Next MendOnce(const Trial& start) {
+        if (TrialPtr other = MendType(start); other != nullptr) {
+            return {other, true};
+        }
         queue = Queue();
         seen.clear();
         TrialPtr farthest;
@@ -149,8 +137,8 @@ private:
             return trial.mismatch.line - trial.baseLine - 6.0 * trial.weight + 0.001 * trial.mismatch.line;
         };
         AddChildren(start, 0.0);
-        for (int trials = 0; !queue.empty() && trials < kMostTrialsPerMistake && triedLines < mostTriedLines;
-             ++trials) {
+        const int mostTrials = guesses == 0 ? kMostTrialsPerMistake : kMostTrialsPerGuess;
+        for (int trials = 0; !queue.empty() && trials < mostTrials && triedLines < mostTriedLines; ++trials) {
             TrialPtr trial = queue.top();
             queue.pop();
             if (settled != nullptr && trial->weight > settled->weight) {
@@ -158,7 +146,7 @@ private:
             }
             Try(*trial);
             if (trial->isRead) {
-                return trial;
+                return {trial, true};
             }
             const std::int32_t base = std::max(trial->baseLine, start.mismatch.line);
             if (trial->mismatch.line >= base + kSettledAfter && !EndsInOpenList(trial->mismatch)) {
@@ -178,7 +166,30 @@ private:
                 AddChildren(*trial, trial->weight);
             }
         }
-        return settled != nullptr ? settled : farthest;
+        return settled != nullptr ? Next{settled, true} : Next{farthest, false};
+    }
+
+    // Where not even the first key of a content's type is there: another type that has all of them.
+    TrialPtr MendType(const Trial& start) {
+        const Mismatch& at = start.mismatch;
+        if (!start.mends.empty() || at.line >= text.LineCount() || at.choices.empty()) {
+            return nullptr;
+        }
+        const ReadChoice& type = at.choices.back();
+        if (type.table == nullptr || type.ask > kLastTypeAsk || at.ask != type.ask + 1) {
+            return nullptr;
+        }
+        for (std::int32_t row = 0; row < type.table->rowCount; ++row) {
+            auto trial = std::make_shared<Trial>();
+            trial->mends = {{Mend::Kind::Choice, type.ask, kNone, row}};
+            if (row != type.value) {
+                Try(*trial);
+            }
+            if (trial->isRead) {
+                return trial;
+            }
+        }
+        return nullptr;
     }
 
     // Entries that a count was raised for prove nothing by themselves.
@@ -208,8 +219,8 @@ private:
     void AddChildren(const Trial& trial, double weight) {
         parentWeight = weight;
         const Mismatch& at = trial.mismatch;
-        if (at.line < text.LineCount() && Key(at.line).empty() && !at.isAbnormalEnd) {
-            Add(trial, Weight::kBlankLine, {{Mend::Kind::SkipLines, kNone, at.line, 1}}, at.line + 1);
+        if (const std::int32_t remark = RemarkLength(at.line); remark > 0 && !at.isAbnormalEnd) {
+            Add(trial, Weight::kRemark, {{Mend::Kind::SkipLines, kNone, at.line, remark}}, at.line + remark);
             return;
         }
         AddCounts(trial);
@@ -228,6 +239,22 @@ private:
         }
     }
 
+    // How many lines are certainly none of a content: a blank one, a comment, or the second half of a merge that was
+    // not finished.
+    std::int32_t RemarkLength(std::int32_t line) const {
+        if (line >= text.LineCount() || (!Key(line).empty() && RemarkOf(Key(line)) == Remark::None)) {
+            return 0;
+        }
+        if (RemarkOf(Key(line)) == Remark::MergeMiddle) {
+            for (std::int32_t end = line + 1; end < std::min(line + kFarthestLine, text.LineCount()); ++end) {
+                if (RemarkOf(Key(end)) == Remark::MergeEnd) {
+                    return end - line + 1;
+                }
+            }
+        }
+        return 1;
+    }
+
     // Mends of the line ahead as a line for what is asked for.
     void AddKeys(const Trial& trial) {
         const Mismatch& at = trial.mismatch;
@@ -240,18 +267,21 @@ private:
             Add(trial, Weight::kSwapped + (isAskedLater ? 0.0 : 0.1), {{Mend::Kind::SwapLines, kNone, at.line, kNone}},
                 at.line + 2);
         }
-        const bool isLike = !isRow && IsLike(key, at.label);
+        const bool isLike = isRow ? IsLikeRow(Trimmed(text.Line(at.line))) : IsLike(key, at.label);
+        const std::string_view content = Trimmed(text.Line(at.line));
         const bool isFit =
-            FitsKind(Trimmed(text.Line(at.line)).substr(std::min(key.size(), Trimmed(text.Line(at.line)).size())),
-                     at.probes[0].kind);
+            (isRow && isLike) || FitsKind(content.substr(std::min(key.size(), content.size())), at.probes[0].kind);
         const double weight =
             (isLike ? Weight::kMisspelt : Weight::kOtherKey) + (isAskedLater ? 0.8 : 0.0) + (isFit ? 0.0 : 0.4);
         Add(trial, weight, {{Mend::Kind::AcceptLine, at.ask, kNone, kNone}}, at.line + 1);
     }
 
-    // Mends of fields without lines, up to one that has the key ahead.
+    // Mends of fields without lines, up to one that has the key ahead. A group that follows fits by itself wherever it
+    // stands: only what is behind it proves anything.
     void AddMissing(const Trial& trial) {
         const Mismatch& at = trial.mismatch;
+        const std::int32_t group = GroupLength(at.line);
+        const std::int32_t base = at.line + (group > 1 ? std::min(group, kFarthestLine) : 0);
         const std::string_view key = Key(at.line);
         const bool isRowAhead = key.starts_with('[');
         int found = 0;
@@ -261,7 +291,7 @@ private:
                 Mends mends = MissingUpTo(at, i);
                 if (mends.size() < kFarthestLine) {
                     const double weight = static_cast<double>(mends.size()) * Weight::kOneLine;
-                    Add(trial, weight, mends, at.line);
+                    Add(trial, weight, mends, base);
                     ++found;
                 }
             }
@@ -306,11 +336,13 @@ private:
         };
         skip(isSame ? Weight::kSameLine : isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
         if (group > 1) {
-            skip(Weight::kGroup, group);
+            // An entry more than a count says is a mistake of the count.
+            skip(!at.endedLists.empty() && FollowsItsLike(at.line) ? Weight::kEntry : Weight::kGroup, group);
         }
         if (at.label.empty()) {
             const std::int32_t rest = text.LineCount() - at.line;
-            skip(rest == 1 ? Weight::kOneLine : std::min(Weight::kRest + 0.25 * (rest - 2), 4.0), rest);
+            const bool isFile = IsLabel(Key(at.line), kTextHeader);
+            skip(isFile || rest == 1 ? Weight::kOneLine : std::min(Weight::kRest + 0.25 * (rest - 2), 4.0), rest);
             return;
         }
         for (std::int32_t count = 2; count < kFarthestLine; ++count) {
@@ -333,6 +365,16 @@ private:
             ++end;
         }
         return end - line;
+    }
+
+    // Whether the group or line in front has the same key.
+    bool FollowsItsLike(std::int32_t line) const {
+        const std::int32_t indentation = IndentationOf(text.Line(line));
+        std::int32_t before = line - 1;
+        while (before > 0 && IndentationOf(text.Line(before)) > indentation) {
+            --before;
+        }
+        return before > 0 && IndentationOf(text.Line(before)) == indentation && Key(before) == Key(line);
     }
 
     bool HasMendBehind(const Trial& trial, std::int32_t ask) const {
@@ -385,7 +427,7 @@ private:
         const Mismatch& at = trial.mismatch;
         for (std::size_t i = 0; i < at.choices.size(); ++i) {
             const ReadChoice& choice = at.choices[i];
-            const bool isFirst = i + 1 == at.choices.size() && choice.table != nullptr && choice.ask <= 2;
+            const bool isFirst = i + 1 == at.choices.size() && choice.table != nullptr && choice.ask <= kLastTypeAsk;
             // The type of a content may be chosen again: what is in front of the place has the same keys.
             const bool isChosenAgain = isFirst && HasMendAt(trial, choice.ask, {Mend::Kind::Choice});
             if ((HasMendBehind(trial, choice.ask) && !isFirst) ||
@@ -427,6 +469,8 @@ private:
     std::set<std::tuple<std::int32_t, const char16_t*, std::size_t, std::int32_t, bool>> seen;
     double parentWeight = 0.0;
     int trialCount = 0;
+    // Steps in a row that nothing confirmed.
+    int guesses = 0;
     std::int64_t triedLines = 0;
 };
 

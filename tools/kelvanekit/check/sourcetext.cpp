@@ -108,6 +108,20 @@ std::string_view KeyOf(std::string_view line) {
     return line.substr(0, length);
 }
 
+Remark RemarkOf(std::string_view key) {
+    struct Mark {
+        std::string_view begin;
+        Remark remark;
+    };
+    constexpr Mark kMarks[] = {
+        {"//", Remark::Comment},         {"#", Remark::Comment},           {";", Remark::Comment},
+        {"--", Remark::Comment},         {"/*", Remark::Comment},          {"<!--", Remark::Comment},
+        {"<<<<<<<", Remark::MergeBegin}, {"=======", Remark::MergeMiddle}, {">>>>>>>", Remark::MergeEnd},
+    };
+    const auto* mark = std::ranges::find_if(kMarks, [&](const Mark& row) { return key.starts_with(row.begin); });
+    return mark == std::end(kMarks) ? Remark::None : mark->remark;
+}
+
 std::string Lowered(std::string_view text) {
     std::string result(text);
     std::ranges::transform(result, result.begin(), [](char byte) {

@@ -16,6 +16,27 @@ constexpr std::size_t kMostProbes = 64;
 // Entries that a list of unknown length is given room for.
 constexpr std::int32_t kMostUncounted = 65536;
 
+// Where the value begins that a line has behind its label with a sign between, `width = 12`, or with nothing at all; 0
+// if it does not.
+std::size_t EndOfSign(std::string_view line, Label label) {
+    const std::string_view key = KeyOf(line);
+    if (key.size() < label.size() || !Ascii::EqualsEach(key.data(), label)) {
+        return 0;
+    }
+    const std::size_t end = static_cast<std::size_t>(key.data() - line.data()) + label.size();
+    const std::size_t signBegin = end + static_cast<std::size_t>(IndentationOf(line.substr(end)));
+    // Some look like a blank.
+    constexpr std::string_view kSigns[] = {"=", ":", "\u00A0", "\u200B", "\u3000"};
+    for (const std::string_view sign : kSigns) {
+        if (line.substr(signBegin).starts_with(sign)) {
+            return signBegin + sign.size();
+        }
+    }
+    const bool isOpened = key.size() > label.size() && (line[end] == '"' || line[end] == '[');
+    const bool isAttached = key.size() > label.size() && Trimmed(line).size() == key.size();
+    return isOpened || isAttached ? end : 0;
+}
+
 Mends MendsOf(const Mends& mends, bool ofLines) {
     Mends result;
     std::ranges::copy_if(mends, std::back_inserter(result),
@@ -176,13 +197,11 @@ void TextReader::TakeLine(Label label, FieldKind kind) {
     const auto indentation = static_cast<std::size_t>(IndentationOf(takenText));
     const std::string_view key = KeyOf(takenText);
     valueBegin = indentation + (kind == FieldKind::Row ? 0 : key.size());
-    NoteLine(takenText);
-    if (kind != FieldKind::Row && !IsLabel(key, label)) {
-        if (key.size() > label.size() && Ascii::EqualsEach(key.data(), label)) {
-            const char separator = key[label.size()];
-            valueBegin = indentation + label.size() + (separator == '=' || separator == ':' ? 1 : 0);
-        }
-        NoteMisspelt(label, takenText.substr(indentation, valueBegin - indentation));
+    isLineSound = NoteLine(takenText);
+    const std::size_t signEnd = kind == FieldKind::Row ? 0 : EndOfSign(takenText, label);
+    if (kind != FieldKind::Row && (signEnd > 0 || !IsLabel(key, label))) {
+        valueBegin = signEnd > 0 ? signEnd : valueBegin;
+        NoteMisspelt(label, takenText.substr(indentation, valueBegin - indentation), signEnd > 0);
     }
     cursor.Pass();
 }
@@ -257,8 +276,8 @@ bool TextReader::ReadSlowly(Label label, FieldKind kind, Scan scan) {
     valueBegin = static_cast<std::size_t>(value.data() - takenText.data());
     ValueScan scanner(value);
     scan(scanner);
-    isValueClean = scanner.IsClean();
-    if (!isValueClean) {
+    isValueClean = scanner.IsClean() && isLineSound;
+    if (!scanner.IsClean() && isLineSound) {
         NoteValue(scanner.Problem());
     }
     return true;

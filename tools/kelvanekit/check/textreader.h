@@ -78,12 +78,12 @@ private:
     // What is noted in the mode for it.
     void NoteAsked(Label label, FieldKind kind, std::int32_t fieldLine);
     void NoteValue(ValueProblem& problem);
-    void NoteLine(std::string_view content);
+    bool NoteLine(std::string_view content);
     void NoteMissing(bool isHeader);
     void NoteTruncated();
     void NoteSkipped(std::int32_t count);
     void NoteSwapped();
-    void NoteMisspelt(Label label, std::string_view key);
+    void NoteMisspelt(Label label, std::string_view key, bool isAttached);
     void NoteTruth(bool given);
     Finding& AddAt(const FindingCode* code, std::int32_t atLine, TextRange range, std::string key, std::string message);
 
@@ -106,6 +106,8 @@ private:
     std::int32_t takenLine = kNone;
     std::string_view takenText;
     std::size_t valueBegin = 0;
+    // There is nothing to note of the line as a whole, from which findings of its value would follow.
+    bool isLineSound = true;
     // What mends say of the field that is being read.
     const Mend* fieldMend = nullptr;
     bool isHeaderMissing = false;

@@ -1,5 +1,6 @@
 #include "tools/kelvanekit/check/textreader.h"
 
+#include "engine/archive/archiveheader.h"
 #include "engine/string/utf8.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 
@@ -63,9 +64,9 @@ void TextReader::NoteValue(ValueProblem& problem) {
     finding.hasReplacement = problem.hasReplacement;
 }
 
-void TextReader::NoteLine(std::string_view content) {
+bool TextReader::NoteLine(std::string_view content) {
     if (mode == Mode::Probing) {
-        return;
+        return true;
     }
     const FindingCode* code = nullptr;
     std::size_t place = content.find('\0');
@@ -82,13 +83,14 @@ void TextReader::NoteLine(std::string_view content) {
                   std::to_string(kMostLineUnits - 1) + " counts as another line";
     }
     if (code == nullptr) {
-        return;
+        return true;
     }
     Spoil();
     if (IsNoting()) {
         AddAt(code, takenLine, {static_cast<std::int32_t>(place), static_cast<std::int32_t>(content.size())},
               CurrentPath(), std::move(message));
     }
+    return false;
 }
 
 void TextReader::NoteMissing(bool isHeader) {
@@ -128,12 +130,20 @@ void TextReader::NoteSkipped(std::int32_t count) {
         AddAt(code, line, Whole(content), PathBelow(asks, isAtEnd ? kNone : ParentAsk(), key), message).help = help;
     };
     if (isAtEnd) {
-        add(Code("trailing-content"), "content behind the last key is left out");
+        add(Code("trailing-content"), "content behind the last key is left out",
+            IsLabel(key, kTextHeader) ? "a second file seems to follow: take it out" : "");
     } else if (key.empty()) {
         AddAt(Code("unexpected-line"), line, {}, {}, "an empty line stands in the way of all keys behind it").help =
             "take the line out";
+    } else if (const Remark remark = RemarkOf(key); remark == Remark::Comment) {
+        add(Code("unexpected-line"), "a comment stands in the way of all keys behind it: there are no comments",
+            "take the line out");
+    } else if (remark != Remark::None) {
+        add(Code("unexpected-line"), "a merge was not finished here",
+            "keep one of the two versions, and take the marks out");
     } else if (count > 1) {
-        add(Code("unexpected-section"), "no key asks for these " + std::to_string(count) + " lines");
+        add(Code("unexpected-section"), "no key asks for these " + std::to_string(count) + " lines",
+            "take them out, or move them to their place");
     } else if (line > 0 && KeyOf(text.Line(line - 1)) == key) {
         add(Code("doubled-line"), Quoted(key) + " stands twice", "take one of the two lines out");
     } else {
@@ -151,15 +161,20 @@ void TextReader::NoteSwapped() {
     }
 }
 
-void TextReader::NoteMisspelt(Label label, std::string_view key) {
+// The key is spelt right if `isAttached`, but something else than a blank is between it and its value.
+void TextReader::NoteMisspelt(Label label, std::string_view key, bool isAttached) {
     if (!IsNoting()) {
         return;
     }
     const auto begin = static_cast<std::int32_t>(key.data() - takenText.data());
+    const std::string message =
+        isAttached ? "a blank, and nothing else, should stand between the key " + Quoted(label) + " and its value"
+                   : Quoted(key) + " stands where the key " + Quoted(label) + " belongs";
     Finding& finding = AddAt(Code("misspelt-key"), takenLine, {begin, begin + static_cast<std::int32_t>(key.size())},
-                             CurrentPath(), Quoted(key) + " stands where the key " + Quoted(label) + " belongs");
-    finding.help = "did you mean " + Quoted(label) + "?";
-    finding.replacement = ToUtf8(label);
+                             CurrentPath(), message);
+    finding.help = isAttached ? "" : "did you mean " + Quoted(label) + "?";
+    const bool lacksBlank = isAttached && !takenText.substr(valueBegin).starts_with(' ');
+    finding.replacement = ToUtf8(label) + (lacksBlank ? " " : "");
     finding.hasReplacement = true;
 }
 

@@ -107,6 +107,16 @@ Real RealOf(std::string_view number) {
     return value;
 }
 
+// A text without single or typographic quotes around it.
+std::string_view WithoutOtherQuotes(std::string_view text) {
+    constexpr std::string_view kQuotes[] = {"'", "`", "\u2018", "\u2019", "\u201A", "\u201C", "\u201D", "\u201E"};
+    for (const std::string_view quote : kQuotes) {
+        text.remove_prefix(text.starts_with(quote) ? quote.size() : 0);
+        text.remove_suffix(text.ends_with(quote) ? quote.size() : 0);
+    }
+    return text;
+}
+
 std::u16string_view Cut(std::u16string_view units, int size) {
     return units.substr(0, static_cast<std::size_t>(std::max(size - 1, 0)));
 }
@@ -144,11 +154,13 @@ void ValueScan::Note(const FindingCode* code, std::string_view part, std::string
 void ValueScan::NoteRest(std::string_view number, std::size_t length, bool isReal) {
     const std::string_view rest = number.substr(length);
     const std::string message = Quoted(number) + " is not a number as a whole: " + Quoted(number.substr(0, length)) +
-                                " is taken, and " + Quoted(rest) + " is lost";
+                                " is taken, and " + Quoted(Trimmed(rest)) + " is lost";
     if (isReal && rest.starts_with(',') && rest.size() > 1 && DigitsAt(rest, 1) == rest.size() - 1) {
         const std::string decimals = '.' + std::string(rest.substr(1));
         Note(Code("number-with-rest"), rest, message,
              "decimals follow a point: " + Quoted(std::string(number.substr(0, length)) + decimals), decimals);
+    } else if (RemarkOf(Trimmed(rest)) == Remark::Comment) {
+        Note(Code("number-with-rest"), rest, message, "there are no comments: take it out", {});
     } else {
         Note(Code("number-with-rest"), rest, message);
     }
@@ -290,8 +302,12 @@ void ValueScan::Text(char16_t* buffer, int size) {
     const std::size_t closing = text.rfind('"');
     std::string_view inside = text;
     if (opening == std::string_view::npos) {
-        Note(Code("text-not-quoted"), text, text.empty() ? "a text is missing" : Quoted(text) + " has no quotes",
-             "a text stands in double quotes", '"' + std::string(text) + '"');
+        inside = WithoutOtherQuotes(text);
+        Note(Code("text-not-quoted"), text,
+             text.empty()                  ? "a text is missing"
+             : inside.size() < text.size() ? Quoted(text) + " stands in other quotes than \""
+                                           : Quoted(text) + " has no quotes",
+             "write " + Quoted('"' + std::string(inside) + '"'), '"' + std::string(inside) + '"');
     } else if (opening > 0) {
         inside = text.substr(opening + 1, closing > opening ? closing - opening - 1 : 0);
         Note(Code("text-not-quoted"), text, "what stands in front of the quote is lost",
@@ -341,7 +357,7 @@ void ValueScan::TakeList(std::span<Value> values, bool hasCommas, Take take) {
                  hasCommas ? "write the numbers as in `[ 1 , 2 ]`" : "write the numbers as in `[ 1.0 2.0 ]`");
         }
     };
-    expect('[', "the opening bracket");
+    expect('[', text.empty() ? "a list of numbers" : "the opening bracket");
     for (Value& value : values) {
         rest = Trimmed(rest);
         const std::size_t length = std::min(rest.find_first_of(hasCommas ? ",] \t" : "] \t"), rest.size());

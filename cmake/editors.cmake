@@ -4,7 +4,6 @@ set(editorFiles
   neovim/kelvane.lua
   vim/ftdetect/kelvane.vim
   vim/syntax/kelvane.vim
-  vscode/extension.js
   vscode/kelvane.tmLanguage.json
   vscode/package.json)
 set(editorsDirectory ${PROJECT_BINARY_DIR}/editors)

@@ -29,6 +29,7 @@ endif()
 if(TARGET editor_files)
   install(DIRECTORY editors/ ${editorsDirectory}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvane/editors COMPONENT kelvane
     PATTERN "*.in" EXCLUDE)
+  install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/kelvane/editors/vscode COMPONENT kelvane)
 endif()
 
 install(TARGETS vorn EXPORT kelvane

@@ -4,10 +4,10 @@ const {LanguageClient} = require("vscode-languageclient/node");
 let client;
 
 exports.activate = () => {
-    const command = workspace.getConfiguration("kelvane").get("program");
-    client = new LanguageClient("kelvane", "Kelvane", {command, args: ["lsp"]}, {
+    const settings = workspace.getConfiguration("kelvane");
+    client = new LanguageClient("kelvane", "Kelvane", {command: settings.get("program"), args: ["lsp"]}, {
         documentSelector: [{language: "kelvane"}],
-        synchronize: {fileEvents: workspace.createFileSystemWatcher("**/*.{@ENDINGS@}")}
+        initializationOptions: {names: settings.get("names")}
     });
     return client.start();
 };

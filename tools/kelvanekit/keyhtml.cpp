@@ -79,36 +79,52 @@ const sections = [...document.querySelectorAll('section')].map(element => ({
   rows: [...element.querySelectorAll('tbody tr')].map(row =>
     ({element: row, text: row.cells[0].textContent.toLowerCase()})),
   words: element.dataset.texts === undefined ? '' : element.textContent.toLowerCase()}));
+// The links that a search leads to.
+let hits = [];
 function show() {
   const wanted = search.value.trim().toLowerCase();
-  let found = 0;
+  hits = [];
   for (const section of sections) {
     const whole = section.name.includes(wanted) || (section.words && section.words.includes(wanted));
-    let some = 0;
+    const before = hits.length;
+    if (whole) { hits.push(section.element.querySelector('h2 a')); }
     for (const row of section.rows) {
-      const shown = whole || row.text.includes(wanted);
-      row.element.hidden = !shown;
-      some += shown && row.text.includes(wanted) ? 1 : 0;
+      const isHit = row.text.includes(wanted);
+      row.element.hidden = !whole && !isHit;
+      if (isHit) { hits.push(row.element.querySelector('a')); }
     }
-    section.element.hidden = wanted !== '' && !whole && some === 0;
-    found += some + (whole && section.words ? 1 : 0);
+    section.element.hidden = wanted !== '' && hits.length === before;
   }
-  count.textContent = wanted === '' ? '' : found + ' found';
+  if (wanted === '') { hits = []; }
+  count.textContent = wanted === '' ? '' : hits.length + ' found';
 }
+function leave() { search.value = ''; show(); }
+function reveal() {
+  leave();
+  document.getElementById(decodeURIComponent(location.hash.slice(1)))?.scrollIntoView();
+}
+function select(link) { link.focus({preventScroll: true}); link.scrollIntoView({block: 'center'}); }
 if (innerWidth <= 768) { document.querySelectorAll('nav details').forEach(part => { part.open = false; }); }
 search.addEventListener('input', show);
-search.addEventListener('keydown', event => {
-  if (event.key === 'Enter') {
-    const first = [...document.querySelectorAll('main a')].find(link => link.offsetParent);
-    if (first) { first.focus(); first.scrollIntoView({block: 'center'}); }
+document.addEventListener('keydown', event => {
+  const active = document.activeElement, place = hits.indexOf(active);
+  if (event.key === '/' && active !== search) {
+    event.preventDefault(); search.focus(); search.select();
+  } else if ((event.key === 'ArrowDown' || event.key === 'ArrowUp') && hits.length && (active === search || place >= 0)) {
+    event.preventDefault();
+    const next = place + (event.key === 'ArrowDown' ? 1 : -1);
+    if (next < 0) { search.focus(); } else { select(hits[Math.min(next, hits.length - 1)]); }
+  } else if (event.key === 'Enter' && active === search && hits.length) {
+    select(hits[0]); hits[0].click();
+  } else if (event.key === 'Escape') {
+    leave();
+    if (place >= 0) { select(active); } else { search.blur(); }
   }
 });
-document.addEventListener('keydown', event => {
-  if (event.key === '/' && document.activeElement !== search) { event.preventDefault(); search.focus(); search.select(); }
-  if (event.key === 'Escape') { search.value = ''; show(); search.blur(); }
+document.addEventListener('click', event => {
+  if (search.value && event.target.closest('a')?.hash === location.hash) { reveal(); }
 });
-window.addEventListener('hashchange', () => { if (search.value) { search.value = ''; show();
-  document.getElementById(decodeURIComponent(location.hash.slice(1)))?.scrollIntoView(); } });
+window.addEventListener('hashchange', () => { if (search.value) { reveal(); } });
 </script>
 </body>
 </html>

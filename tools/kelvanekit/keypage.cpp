@@ -38,10 +38,10 @@ public:
         PrintUses(record);
     }
 
-    // The enumerations that were named.
-    void PrintChoices() {
+    // The enumerations that were named, or all of them.
+    void PrintChoices(bool isAll) {
         for (const auto& [name, texts] : model.choices) {
-            if (choices.contains(name)) {
+            if (isAll || choices.contains(name)) {
                 PrintChoice(name, texts);
             }
         }
@@ -124,7 +124,7 @@ void PrintKeyPage(KeyPage& page, const KeyModel& model, const KeySelection& sele
             printer.PrintRecord(index);
         }
     }
-    printer.PrintChoices();
+    printer.PrintChoices(selection.isAll);
     page.End();
 }
 

@@ -87,15 +87,7 @@ void AddRoot(const std::string& root, KnownNames& names, FindingReport& report) 
         // Names of a kind are looked up even if no file is of that kind.
         names.Add(NameKindOf(row.kind), {});
     }
-    FindNames(sources.files, [&](const std::u16string& name, const SourceFile& file) {
-        const std::uint64_t classes =
-            file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
-        names.Add(NameKindOf(file.kind), name, classes);
-        if (file.kind != ContentKind::Brushes) {
-            // A name stands with or without the ending of its file.
-            names.Add(NameKindOf(file.kind), name + NameFromBytes(file.name.substr(file.name.rfind('.'))), classes);
-        }
-    });
+    FindNames(sources.files, [&](const std::u16string& name, const SourceFile& file) { AddName(name, file, names); });
 }
 
 void AddList(const std::string& fileName, NameKind kind, KnownNames& names, FindingReport& report) {
@@ -138,6 +130,14 @@ void FindNames(const std::vector<SourceFile>& files, const NameFound& found) {
         }
         const std::u16string name = NameFromBytes(file.name.substr(file.name.find_last_of("/\\") + 1));
         found(name.substr(0, name.rfind(u'.')), file);
+    }
+}
+
+void AddName(const std::u16string& name, const SourceFile& file, KnownNames& names) {
+    const std::uint64_t classes = file.kind == ContentKind::Entity ? EntityClassOf(file.name) : KnownNames::kAnyClass;
+    names.Add(NameKindOf(file.kind), name, classes);
+    if (file.kind != ContentKind::Brushes) {
+        names.Add(NameKindOf(file.kind), name + NameFromBytes(file.name.substr(file.name.rfind('.'))), classes);
     }
 }
 

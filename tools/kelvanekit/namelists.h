@@ -23,6 +23,9 @@ NameKind NameKindOf(ContentKind kind);
 using NameFound = std::function<void(const std::u16string& name, const SourceFile& file)>;
 void FindNames(const std::vector<SourceFile>& files, const NameFound& found);
 
+// Adds such a name as references may spell it: that of a file with or without its ending.
+void AddName(const std::u16string& name, const SourceFile& file, KnownNames& names);
+
 // Checks contents with the names of the lists. What cannot be read of these becomes a problem of the report.
 ContentChecker MakeChecker(const NameLists& lists, FindingReport& report);
 

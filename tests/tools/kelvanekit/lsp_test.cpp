@@ -16,9 +16,10 @@ using Json = nlohmann::json;
 
 class LanguageServerTest : public testing::Test {
 protected:
-    void Start(const Json& capabilities = Json::object()) {
+    void Start(const Json& capabilities = Json::object(), const Json& options = Json()) {
         Ask("initialize",
             {{"capabilities", capabilities},
+             {"initializationOptions", options},
              {"workspaceFolders", Json::array({{{"uri", UriOfFile(folder.Path().string())}, {"name", "w"}}})}});
         Tell("initialized", Json::object());
     }
@@ -92,6 +93,7 @@ TEST_F(LanguageServerTest, MistakesAreUnderlinedAndCured) {
     EXPECT_EQ(wrong[0]["code"], "wrong-case-text");
     EXPECT_EQ(wrong[0]["severity"], 1);
     EXPECT_EQ(wrong[0]["range"]["start"]["line"], line);
+    EXPECT_EQ(sent.back()["params"]["version"], 2);
     Json params = Document();
     params["range"] = wrong[0]["range"];
     params["context"] = {{"diagnostics", wrong}};
@@ -170,6 +172,27 @@ TEST_F(LanguageServerTest, ASectionIsOfferedWithItsLines) {
               "\tLevel:3 ${4:0.000000}");
 }
 
+TEST_F(LanguageServerTest, EntriesOfListsAreOffered) {
+    Start();
+    const std::string raider = "frigateRoleType \"Raider\"\n";
+    std::string text = frigate;
+    text.replace(text.find(raider), raider.size(), "\n");
+    Open("a.entity", text);
+    const int line = LineWith(frigate, raider);
+    EXPECT_EQ(Labels(Ask("textDocument/completion", At(line, 0))), std::vector<std::string>{"frigateRoleType"});
+    // There is no room for a fourth.
+    Type(line, 0, 0, raider);
+    EXPECT_EQ(Labels(Ask("textDocument/completion", At(line + 1, 0))), std::vector<std::string>{});
+    // A list that has no entry yet.
+    text = frigate;
+    text.replace(text.find("NumWeapons"), text.find("m_weaponIndexForRange") - text.find("NumWeapons"),
+                 "NumWeapons 0\n\n");
+    Open("b.entity", text);
+    const Json weapon = Ask("textDocument/completion", At(LineWith(text, "NumWeapons") + 1, 0))["items"];
+    ASSERT_FALSE(weapon.empty());
+    EXPECT_TRUE(std::string(weapon[0]["textEdit"]["newText"]).starts_with("Weapon\n\tWeaponType \"")) << weapon[0];
+}
+
 TEST_F(LanguageServerTest, KeysAreExplained) {
     Start();
     Open("a.entity", frigate);
@@ -200,6 +223,42 @@ TEST_F(LanguageServerTest, NamesAreFoundInTheWorkspace) {
     EXPECT_EQ(symbols[0]["name"], "AbilityOverchargedLance");
 }
 
+TEST_F(LanguageServerTest, NamesThatTheWorkspaceLacksAreReported) {
+    const auto isMissing = [](const Json& diagnostics) {
+        return std::ranges::any_of(diagnostics, [](const Json& diagnostic) {
+            return diagnostic["code"] == "unresolved-name" &&
+                   std::string(diagnostic["message"]).find("AbilityOverchargedLance") != std::string::npos;
+        });
+    };
+    WriteBytes(folder.Path() / "a.entity", frigate);
+    Start({{"workspace", {{"didChangeWatchedFiles", {{"dynamicRegistration", true}}}}}});
+    EXPECT_EQ(sent.back()["method"], "client/registerCapability");
+    // A document that stands alone does not tell what there is elsewhere.
+    EXPECT_EQ(Open("a.entity", frigate), Json::array());
+    const auto write = [&](const char* name) {
+        WriteBytes(folder.Path() / name, Sample("entity/ability_field_repair.entity"));
+        Tell("workspace/didChangeWatchedFiles", {{"changes", Json::array()}});
+        return Published();
+    };
+    EXPECT_TRUE(isMissing(write("AbilityOther.entity")));
+    EXPECT_FALSE(isMissing(write("AbilityOverchargedLance.entity")));
+    std::filesystem::remove(folder.Path() / "AbilityOverchargedLance.entity");
+    Tell("textDocument/didSave", Document());
+    EXPECT_TRUE(isMissing(Published()));
+    // Nor does the workspace tell of the names in a document from elsewhere.
+    EXPECT_EQ(Open("../elsewhere.entity", frigate), Json::array());
+    Open("a.entity", frigate);
+    // What is well written but for them can be formatted.
+    EXPECT_EQ(Ask("textDocument/formatting", Document()), Json::array());
+}
+
+TEST_F(LanguageServerTest, NamesAreNotCheckedForThoseWhoDoNotWantIt) {
+    WriteBytes(folder.Path() / "a.entity", frigate);
+    WriteBytes(folder.Path() / "AbilityOther.entity", Sample("entity/ability_field_repair.entity"));
+    Start(Json::object(), {{"names", false}});
+    EXPECT_EQ(Open("a.entity", frigate), Json::array());
+}
+
 TEST_F(LanguageServerTest, SectionsAreListedAndFolded) {
     Start();
     Open("a.entity", frigate);
@@ -222,9 +281,12 @@ TEST_F(LanguageServerTest, FormattingLosesNothing) {
     Open("b.entity", loose);
     const Json edits = Ask("textDocument/formatting", Document());
     ASSERT_EQ(edits.size(), 1U);
-    std::string text = edits[0]["newText"];
-    std::erase(text, '\r');
-    EXPECT_EQ(text, frigate);
+    EXPECT_EQ(edits[0]["newText"], "BuildTime 28.000000\n");
+    EXPECT_EQ(edits[0]["range"]["start"]["line"], LineWith(frigate, "BuildTime"));
+    EXPECT_EQ(edits[0]["range"]["end"]["line"], LineWith(frigate, "BuildTime") + 1);
+    Open("a.entity", frigate);
+    EXPECT_EQ(Ask("textDocument/formatting", Document()), Json::array());
+    Open("b.entity", loose);
     loose.replace(loose.find("BuildTime   28"), 14, "BuildTime 28x ");
     Open("c.entity", loose);
     EXPECT_EQ(Ask("textDocument/formatting", Document()), Json::array());

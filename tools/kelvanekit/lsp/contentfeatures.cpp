@@ -122,14 +122,11 @@ public:
     MissingLines(ContentKind _kind, const TextFields& _fields, bool _isSnippet)
         : kind(_kind), fields(_fields), isSnippet(_isSnippet) {}
 
-    // The lines of a group behind its own, each behind a line feed.
-    std::string SectionOf(std::int32_t ask) {
+    // The lines of a group behind its own, and those of an entry behind a count, each behind a line feed.
+    std::string LinesBelow(std::int32_t ask) {
         const AskedField& field = fields.asks[static_cast<std::size_t>(ask)];
         std::string text;
-        if (field.kind != FieldKind::Record) {
-            return text;
-        }
-        for (const SectionLine& line : Vorn::SectionOf(kind, fields.asks, ask)) {
+        for (const SectionLine& line : Vorn::LinesBelow(kind, fields.asks, ask)) {
             text += '\n' + std::string(static_cast<std::size_t>(field.depth + line.depth), '\t') + line.key;
             text += line.value.empty() ? "" : ' ' + Place(line.value);
         }
@@ -146,6 +143,12 @@ public:
         const bool isGroup =
             field.kind == FieldKind::Record || field.kind == FieldKind::Matrix33 || field.kind == FieldKind::Matrix44;
         return isGroup ? line : line + (field.kind == FieldKind::Row ? "" : " ") + ValueOf(ask, field);
+    }
+
+    // A field with all that belongs to it.
+    std::string SectionOf(std::int32_t ask) {
+        const std::string line = LineOf(ask);
+        return fields.asks[static_cast<std::size_t>(ask)].kind == FieldKind::Record ? line + LinesBelow(ask) : line;
     }
 
 private:
@@ -177,65 +180,125 @@ private:
     int placeCount = 0;
 };
 
-// The keys that belong where a line stands, found by reading the text without it.
-std::vector<Completion> KeysAt(const TextDocument& document, const LineParts& parts, std::size_t cursor,
-                               bool hasSnippets) {
-    std::string rest(document.Text());
-    const std::size_t next = document.CheckedLineStart(parts.line + 1);
-    rest.erase(parts.begin, std::max(next, parts.end) - parts.begin);
-    const TextFields fields = ReadTextFields(document.Kind(), rest);
-    const auto count = static_cast<std::int32_t>(fields.asks.size());
-    const auto isBehind = [&](const AskedField& field) { return !field.IsMissing() && field.line >= parts.line; };
-    const auto behind = static_cast<std::int32_t>(std::ranges::find_if(fields.asks, isBehind) - fields.asks.begin());
-    std::int32_t first = behind;
-    while (first > 0 && fields.asks[static_cast<std::size_t>(first) - 1].IsMissing()) {
-        --first;
+// What can stand at a line, found by reading the text without it.
+class KeyOffers {
+public:
+    KeyOffers(const TextDocument& _document, const LineParts& _parts, std::size_t _cursor, bool _hasSnippets)
+        : document(_document), parts(_parts), cursor(_cursor), hasValue(_parts.valueBegin < _parts.valueEnd),
+          isSnippet(_hasSnippets && !hasValue), fields(FieldsWithout(_document, _parts)), asks(fields.asks) {
+        const auto isBehind = [&](const AskedField& field) { return !field.IsMissing() && field.line >= parts.line; };
+        behind = static_cast<std::int32_t>(std::ranges::find_if(asks, isBehind) - asks.begin());
+        first = behind;
+        while (first > 0 && At(first - 1).IsMissing()) {
+            --first;
+        }
     }
-    // A field of the section around ends a section.
-    const auto depthOf = [&](std::int32_t ask) { return fields.asks[static_cast<std::size_t>(ask)].depth; };
-    std::int32_t end = first;
-    while (end < std::min(behind, count) && depthOf(end) >= depthOf(first)) {
-        ++end;
+
+    std::vector<Completion> All() {
+        AddMissing();
+        AddEntries();
+        return std::move(completions);
     }
-    const std::string indentation(Between(document, parts.begin, parts.keyBegin));
-    const bool hasValue = parts.valueBegin < parts.valueEnd;
-    std::vector<Completion> completions;
-    const auto add = [&](std::int32_t begin, std::int32_t stop) {
+
+private:
+    static TextFields FieldsWithout(const TextDocument& document, const LineParts& parts) {
+        std::string rest(document.Text());
+        const std::size_t next = document.CheckedLineStart(parts.line + 1);
+        rest.erase(parts.begin, std::max(next, parts.end) - parts.begin);
+        return ReadTextFields(document.Kind(), rest);
+    }
+
+    const AskedField& At(std::int32_t ask) const { return asks[static_cast<std::size_t>(ask)]; }
+    MissingLines Lines() const { return MissingLines(document.Kind(), fields, isSnippet); }
+
+    // The keys that are missing at the line, up to a field of the section around. The first comes with all others too.
+    void AddMissing() {
+        std::int32_t end = first;
+        while (end < behind && At(end).depth >= At(first).depth) {
+            ++end;
+        }
+        for (std::int32_t ask = first; ask < end; ++ask) {
+            if (At(ask).kind != FieldKind::Row) {
+                Add(ToUtf8(At(ask).label), Lines().SectionOf(ask));
+            }
+            if (ask == first && end - first > 1 && !hasValue) {
+                MissingLines lines = Lines();
+                std::string text = lines.SectionOf(ask);
+                for (std::int32_t next = ask + 1; next < end; ++next) {
+                    text += '\n' + lines.SectionOf(next);
+                }
+                Add(ToUtf8(At(ask).label), text);
+            }
+        }
+    }
+
+    // One more entry of each list that the line lies in or behind, the innermost first.
+    void AddEntries() {
+        for (std::int32_t ask = first - 1; ask >= 0; ask = At(ask).parent) {
+            const std::int32_t list = At(ask).isCount ? ask : At(ask).list;
+            if (list != kNone && HasRoom(list) && !IsInsideEntry(list)) {
+                const std::string lines = Lines().LinesBelow(list);
+                const std::string_view key = Trimmed(std::string_view(lines).substr(0, lines.find('\n', 1)));
+                if (!key.empty()) {
+                    Add(std::string(KeyOf(key)), lines.substr(1));
+                }
+            }
+        }
+    }
+
+    bool HasRoom(std::int32_t list) const {
+        const AskedField& count = At(list);
+        return count.capacity == ListShape::kUnlimited || count.value < count.capacity;
+    }
+
+    // Whether more of the entry that the line stands in follows.
+    bool IsInsideEntry(std::int32_t list) const {
+        if (first == static_cast<std::int32_t>(asks.size()) || At(first).depth < At(list).depth) {
+            return false;
+        }
+        const auto entry = std::ranges::find(asks, list, &AskedField::list);
+        return At(first).depth > At(list).depth || (At(first).list == list && At(first).label != entry->label);
+    }
+
+    void Add(const std::string& label, const std::string& text) {
+        const bool isOffered = std::ranges::any_of(
+            completions, [&](const Completion& other) { return other.label == label && other.text == text; });
+        if (isOffered) {
+            return;
+        }
         Completion& completion = completions.emplace_back();
-        completion.label = ToUtf8(fields.asks[static_cast<std::size_t>(begin)].label);
-        completion.filter = hasValue ? completion.label : indentation + completion.label;
+        completion.label = label;
+        completion.filter = hasValue ? label : std::string(Between(document, parts.begin, parts.keyBegin)) + label;
         completion.isKey = true;
-        completion.isSnippet = hasSnippets && !hasValue;
+        completion.isSnippet = isSnippet;
         completion.begin = hasValue ? parts.keyBegin : parts.begin;
         completion.end = hasValue ? parts.keyEnd : std::max(parts.keyEnd, cursor);
-        MissingLines lines(document.Kind(), fields, completion.isSnippet);
-        for (std::int32_t ask = begin; ask < stop; ++ask) {
-            completion.text += (ask == begin ? "" : "\n") + lines.LineOf(ask) + lines.SectionOf(ask);
-        }
-        const auto lineFeeds = std::ranges::count(completion.text, '\n');
+        completion.text = hasValue ? label : text;
+        const auto lineFeeds = std::ranges::count(text, '\n');
         completion.detail = lineFeeds > 0 ? "and " + std::to_string(lineFeeds) + " lines that belong to it" : "";
-        if (hasValue) {
-            completion.text = completion.label;
-        }
-    };
-    for (std::int32_t ask = first; ask < end; ++ask) {
-        if (fields.asks[static_cast<std::size_t>(ask)].kind != FieldKind::Row) {
-            add(ask, ask + 1);
-        }
-        if (ask == first && end - first > 1 && !hasValue) {
-            add(ask, end);
-        }
     }
-    return completions;
-}
+
+    const TextDocument& document;
+    const LineParts& parts;
+    const std::size_t cursor;
+    const bool hasValue;
+    const bool isSnippet;
+    const TextFields fields;
+    const AskedFields& asks;
+    // The first field behind the line, and the first of those that are missing in front of it.
+    std::int32_t behind = 0;
+    std::int32_t first = 0;
+    std::vector<Completion> completions;
+};
 
 } // namespace
 
 std::vector<Completion> CompletionsAt(TextDocument& document, std::size_t cursor, const WorkspaceIndex& index,
                                       bool hasSnippets) {
     const LineParts parts = PartsAt(document, cursor);
-    return cursor > parts.keyEnd && parts.keyEnd > parts.keyBegin ? ValuesAt(document, parts, cursor, index)
-                                                                  : KeysAt(document, parts, cursor, hasSnippets);
+    return cursor > parts.keyEnd && parts.keyEnd > parts.keyBegin
+               ? ValuesAt(document, parts, cursor, index)
+               : KeyOffers(document, parts, cursor, hasSnippets).All();
 }
 
 HoverText HoverAt(TextDocument& document, std::size_t cursor) {
@@ -383,7 +446,7 @@ std::optional<Cure> MissingLineOf(TextDocument& document, const Finding& finding
         const std::size_t place = document.CheckedLineStart(finding.place.line - 1);
         const bool isBehindEnd = place > 0 && document.Text()[place - 1] != '\n';
         return Cure{"Insert " + Quoted(Trimmed(line)),
-                    (isBehindEnd ? "\n" : "") + line + (hasParts ? "" : lines.SectionOf(ask)) + '\n', place, place};
+                    (isBehindEnd ? "\n" : "") + (hasParts ? line : lines.SectionOf(ask)) + '\n', place, place};
     }
     return std::nullopt;
 }

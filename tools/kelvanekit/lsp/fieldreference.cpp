@@ -37,32 +37,35 @@ std::int32_t RecordOf(const KeyModel& model, ContentKind kind, const AskedFields
 
 } // namespace
 
-std::vector<SectionLine> SectionOf(ContentKind kind, const AskedFields& asks, std::int32_t ask) {
+std::vector<SectionLine> LinesBelow(ContentKind kind, const AskedFields& asks, std::int32_t ask) {
     const KeyModel& model = Reference();
     const std::int32_t record = RecordOf(model, kind, asks);
     std::vector<SectionLine> lines;
     if (record == kNone) {
         return lines;
     }
-    const std::string path = PlainPath(asks, ask) + '.';
+    const RecordRows rows = RowsOf(model, record, RowDetail::All);
+    const auto own = std::ranges::find(rows.keys, PlainPath(asks, ask), &KeyRow::path);
     // Entries of lists, and what depends on other keys, are passed over.
     std::int32_t leftOut = std::numeric_limits<std::int32_t>::max();
-    std::int32_t base = kNone;
-    for (const KeyRow& row : RowsOf(model, record, RowDetail::All).keys) {
-        if (!row.path.starts_with(path) || row.depth > leftOut) {
+    for (auto row = own; row != rows.keys.end() && (row == own || row->depth > own->depth); ++row) {
+        if (row == own || row->depth > leftOut) {
             continue;
         }
-        const bool isUnconditional = row.when.values.empty() && row.when.before == kNone;
-        leftOut = isUnconditional && !row.key->isList ? std::numeric_limits<std::int32_t>::max() : row.depth;
-        if (!isUnconditional || row.key->key.empty()) {
+        const bool isUnconditional = row->when.values.empty() && row->when.before == kNone;
+        leftOut = isUnconditional && !row->key->isList ? std::numeric_limits<std::int32_t>::max() : row->depth;
+        if (!isUnconditional || row->key->key.empty()) {
             continue;
         }
-        base = base == kNone ? row.depth : base;
-        const auto texts = model.choices.find(row.key->choices);
-        lines.push_back({row.depth - base + 1, row.key->key,
-                         texts == model.choices.end() ? row.key->start : '"' + texts->second.front() + '"'});
+        const auto texts = model.choices.find(row->key->choices);
+        lines.push_back({row->depth - own->depth - (own->key->isList ? 1 : 0), row->key->key,
+                         texts == model.choices.end() ? row->key->start : '"' + texts->second.front() + '"'});
     }
     return lines;
+}
+
+void PrepareReference() {
+    Reference();
 }
 
 std::string DescribeField(ContentKind kind, const AskedFields& asks, std::int32_t ask) {

@@ -1,10 +1,7 @@
 #include "tools/kelvanekit/lsp/languageserver.h"
 
-#include "tools/kelvane/contentconverter.h"
-#include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/fileuri.h"
-#include "tools/kelvanekit/inputfile.h"
-#include "tools/kelvanekit/lsp/contentfeatures.h"
+#include "tools/kelvanekit/lsp/fieldreference.h"
 #include "tools/kelvanekit/version.h"
 #include "tools/kelvanekit/visibletext.h"
 
@@ -29,8 +26,9 @@ const Json& At(const Json& json, const char* first, const char* second) {
     return json.at(first).at(second);
 }
 
-std::string UriIn(const Json& params) {
-    return At(params, "textDocument", "uri").get<std::string>();
+std::optional<std::int32_t> VersionIn(const Json& params) {
+    const Json version = params.at("textDocument").value("version", Json());
+    return version.is_number_integer() ? std::optional(version.get<std::int32_t>()) : std::nullopt;
 }
 
 int SeverityOf(const Finding& finding) {
@@ -47,6 +45,7 @@ const LanguageServer::Method LanguageServer::kMethods[] = {
     {"textDocument/didOpen", &LanguageServer::DidOpen},
     {"textDocument/didChange", &LanguageServer::DidChange},
     {"textDocument/didClose", &LanguageServer::DidClose},
+    {"textDocument/didSave", &LanguageServer::DidSave},
     {"workspace/didChangeWatchedFiles", &LanguageServer::DidChangeFiles},
     {"workspace/didChangeWorkspaceFolders", &LanguageServer::DidChangeFolders},
     {"textDocument/completion", &LanguageServer::Complete},
@@ -59,6 +58,10 @@ const LanguageServer::Method LanguageServer::kMethods[] = {
     {"textDocument/codeAction", &LanguageServer::CodeActions},
     {"textDocument/formatting", &LanguageServer::Formatting},
 };
+
+std::string LanguageServer::UriIn(const Json& params) {
+    return At(params, "textDocument", "uri").get<std::string>();
+}
 
 void LanguageServer::Answer(const Json& id, const char* member, Json content) {
     send({{"jsonrpc", "2.0"}, {"id", id}, {member, std::move(content)}});
@@ -125,6 +128,10 @@ LanguageServer::Json LanguageServer::Initialize(const Json& params) {
     units = std::ranges::find(encodings, Json("utf-8")) != encodings.end() ? PositionUnits::Utf8 : PositionUnits::Utf16;
     hasSnippets =
         capabilities.value("/textDocument/completion/completionItem/snippetSupport"_json_pointer, Json(false)) == true;
+    watchesFiles =
+        capabilities.value("/workspace/didChangeWatchedFiles/dynamicRegistration"_json_pointer, Json(false)) == true;
+    const Json options = params.value("initializationOptions", Json());
+    looksUpNames = !options.is_object() || options.value("names", Json(true)) != false;
     const Json workspaceFolders = params.value("workspaceFolders", Json());
     if (workspaceFolders.is_array()) {
         for (const Json& folder : workspaceFolders) {
@@ -138,7 +145,7 @@ LanguageServer::Json LanguageServer::Initialize(const Json& params) {
     return {{"serverInfo", {{"name", "kelvane-kit"}, {"version", kVersion}}},
             {"capabilities",
              {{"positionEncoding", units == PositionUnits::Utf8 ? "utf-8" : "utf-16"},
-              {"textDocumentSync", {{"openClose", true}, {"change", 2}}},
+              {"textDocumentSync", {{"openClose", true}, {"change", 2}, {"save", true}}},
               {"completionProvider", {{"triggerCharacters", {" ", "\""}}}},
               {"hoverProvider", true},
               {"definitionProvider", true},
@@ -152,6 +159,19 @@ LanguageServer::Json LanguageServer::Initialize(const Json& params) {
 }
 
 LanguageServer::Json LanguageServer::Initialized(const Json&) {
+    if (watchesFiles) {
+        std::string endings;
+        for (const ContentKindRow& row : ContentKinds()) {
+            endings += (endings.empty() ? "" : ",") + std::string(row.ending.substr(1));
+        }
+        const char* const method = "workspace/didChangeWatchedFiles";
+        const Json watchers = Json::array({{{"globPattern", "**/*.{" + endings + '}'}}});
+        const Json registration = {{"id", method}, {"method", method}, {"registerOptions", {{"watchers", watchers}}}};
+        send({{"jsonrpc", "2.0"},
+              {"id", method},
+              {"method", "client/registerCapability"},
+              {"params", {{"registrations", Json::array({registration})}}}});
+    }
     return {};
 }
 
@@ -171,7 +191,9 @@ LanguageServer::Json LanguageServer::Exit(const Json&) {
 LanguageServer::Json LanguageServer::DidOpen(const Json& params) {
     const std::string uri = UriIn(params);
     if (const auto kind = ContentKindOfFile(FileOfUri(uri))) {
-        documents.insert_or_assign(uri, TextDocument(*kind, At(params, "textDocument", "text").get<std::string>()));
+        TextDocument document(*kind, At(params, "textDocument", "text").get<std::string>());
+        document.SetVersion(VersionIn(params));
+        documents.insert_or_assign(uri, std::move(document));
         changed.insert(uri);
     }
     return {};
@@ -189,6 +211,7 @@ LanguageServer::Json LanguageServer::DidChange(const Json& params) {
             document.SetText(text);
         }
     }
+    document.SetVersion(VersionIn(params));
     changed.insert(uri);
     return {};
 }
@@ -202,6 +225,11 @@ LanguageServer::Json LanguageServer::DidClose(const Json& params) {
               {"params", {{"uri", uri}, {"diagnostics", Json::array()}}}});
     }
     return {};
+}
+
+// Not every client watches files.
+LanguageServer::Json LanguageServer::DidSave(const Json& params) {
+    return DidChangeFiles(params);
 }
 
 LanguageServer::Json LanguageServer::DidChangeFiles(const Json&) {
@@ -224,21 +252,51 @@ const WorkspaceIndex& LanguageServer::Index() {
     if (!isIndexed) {
         index.Walk(folders);
         isIndexed = true;
+        for (auto& [uri, document] : documents) {
+            if (looksUpNames) {
+                document.ForgetFindings();
+                changed.insert(uri);
+            }
+        }
     }
     return index;
 }
 
+// A large workspace shows what is wrong in a document before its names are known.
 void LanguageServer::PublishChanged() {
-    for (const std::string& uri : std::exchange(changed, {})) {
-        send({{"jsonrpc", "2.0"},
-              {"method", "textDocument/publishDiagnostics"},
-              {"params", {{"uri", uri}, {"diagnostics", Diagnostics(documents.at(uri))}}}});
+    Publish();
+    if (!documents.empty()) {
+        if (looksUpNames) {
+            Index();
+            Publish();
+        }
+        PrepareReference();
     }
 }
 
-LanguageServer::Json LanguageServer::Diagnostics(TextDocument& document) {
+void LanguageServer::Publish() {
+    for (const std::string& uri : std::exchange(changed, {})) {
+        TextDocument& document = documents.at(uri);
+        Json params = {{"uri", uri}, {"diagnostics", Diagnostics(uri, document)}};
+        if (const std::optional<std::int32_t> version = document.Version()) {
+            params["version"] = *version;
+        }
+        send({{"jsonrpc", "2.0"}, {"method", "textDocument/publishDiagnostics"}, {"params", std::move(params)}});
+    }
+}
+
+// The workspace says nothing of the names in a document from elsewhere.
+const Findings& LanguageServer::FindingsOf(const std::string& uri, TextDocument& document) {
+    const std::string file = FileOfUri(uri);
+    const bool isInside = std::ranges::any_of(folders, [&](const std::string& folder) {
+        return file.starts_with(folder) && (folder.ends_with('/') || file[folder.size()] == '/');
+    });
+    return document.GetFindings(looksUpNames && isInside ? &index.Names() : nullptr);
+}
+
+LanguageServer::Json LanguageServer::Diagnostics(const std::string& uri, TextDocument& document) {
     Json diagnostics = Json::array();
-    for (const Finding& finding : document.GetFindings()) {
+    for (const Finding& finding : FindingsOf(uri, document)) {
         diagnostics.push_back(
             {{"range", RangeOf(document, finding.place)},
              {"severity", SeverityOf(finding)},
@@ -275,200 +333,6 @@ std::size_t LanguageServer::ByteOf(const TextDocument& document, const Json& pos
     return document.Lines().ByteOf(
         document.Text(), {position.at("line").get<std::int32_t>(), position.at("character").get<std::int32_t>()},
         units);
-}
-
-LanguageServer::Json LanguageServer::Complete(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const std::size_t cursor = ByteOf(document, params.at("position"));
-    Json items = Json::array();
-    for (Completion& completion : CompletionsAt(document, cursor, Index(), hasSnippets)) {
-        Json item = {{"label", completion.label},
-                     {"kind", completion.isKey ? 5 : 12},
-                     {"sortText", std::to_string(100000 + items.size())},
-                     {"filterText", completion.filter},
-                     {"textEdit",
-                      {{"range", RangeOf(document, completion.begin, completion.end)}, {"newText", completion.text}}}};
-        if (!completion.detail.empty()) {
-            item["detail"] = completion.detail;
-        }
-        if (completion.isSnippet) {
-            item["insertTextFormat"] = 2;
-        }
-        items.push_back(std::move(item));
-    }
-    return {{"isIncomplete", false}, {"items", std::move(items)}};
-}
-
-LanguageServer::Json LanguageServer::Hover(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const std::size_t cursor = ByteOf(document, params.at("position"));
-    const HoverText hover = HoverAt(document, cursor);
-    if (hover.text.empty()) {
-        return {};
-    }
-    return {{"contents", {{"kind", "markdown"}, {"value", WellFormed(hover.text)}}},
-            {"range", RangeOf(document, hover.begin, hover.end)}};
-}
-
-// What an editor has of a file goes before what the disk has. A file that cannot be read is empty.
-TextDocument& LanguageServer::ContentOf(const SourceFile& file, Contents& contents) {
-    const std::string uri = UriOfFile(file.name);
-    if (const auto open = documents.find(uri); open != documents.end()) {
-        return open->second;
-    }
-    const auto found = contents.find(uri);
-    if (found != contents.end()) {
-        return found->second;
-    }
-    InputFile input;
-    input.Read(file.name);
-    const SourceText text(input.Bytes());
-    return contents.emplace(uri, TextDocument(file.kind, {text.Start(), text.End()})).first->second;
-}
-
-LanguageServer::Json LanguageServer::LocationOf(NameKind kind, std::u16string_view name, const SourceFile& file,
-                                                Contents& contents) {
-    const TextDocument& content = ContentOf(file, contents);
-    const std::size_t place = DefinitionIn(content.Text(), kind, name);
-    return {{"uri", UriOfFile(file.name)}, {"range", RangeOf(content, place, place)}};
-}
-
-LanguageServer::Json LanguageServer::Definition(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const NameAtCursor name = NameAt(document, ByteOf(document, params.at("position")), UriIn(params));
-    const SourceFile* file = Index().Find(name.kind, name.name);
-    Contents contents;
-    return file == nullptr ? Json() : LocationOf(name.kind, name.name, *file, contents);
-}
-
-LanguageServer::Json LanguageServer::References(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const NameAtCursor name = NameAt(document, ByteOf(document, params.at("position")), UriIn(params));
-    Json locations = Json::array();
-    if (name.kind == NameKind::None) {
-        return locations;
-    }
-    const SourceFile* definition = Index().Find(name.kind, name.name);
-    if (definition != nullptr && params.value("/context/includeDeclaration"_json_pointer, true)) {
-        Contents contents;
-        locations.push_back(LocationOf(name.kind, name.name, *definition, contents));
-    }
-    const auto addFrom = [&](const std::string& uri, TextDocument& content) {
-        for (const auto& [begin, end] : ReferencesIn(content, name)) {
-            locations.push_back({{"uri", uri}, {"range", RangeOf(content, begin, end)}});
-        }
-    };
-    for (const SourceFile& file : Index().Files()) {
-        if (const std::string uri = UriOfFile(file.name); !documents.contains(uri)) {
-            // One at a time, however many there are.
-            Contents contents;
-            addFrom(uri, ContentOf(file, contents));
-        }
-    }
-    for (auto& [uri, content] : documents) {
-        addFrom(uri, content);
-    }
-    return locations;
-}
-
-LanguageServer::Json LanguageServer::DocumentSymbols(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const auto toJson = [&](const auto& self, const std::vector<ContentSymbol>& symbols) -> Json {
-        Json list = Json::array();
-        for (const ContentSymbol& symbol : symbols) {
-            list.push_back({{"name", WellFormed(symbol.name)},
-                            {"detail", WellFormed(symbol.detail)},
-                            {"kind", symbol.isGroup ? 19 : 15},
-                            {"range", RangeOf(document, symbol.begin, symbol.end)},
-                            {"selectionRange", RangeOf(document, symbol.begin, symbol.lineEnd)},
-                            {"children", self(self, symbol.children)}});
-        }
-        return list;
-    };
-    return toJson(toJson, SymbolsOf(document));
-}
-
-LanguageServer::Json LanguageServer::Foldings(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    Json ranges = Json::array();
-    const auto add = [&](const auto& self, const std::vector<ContentSymbol>& symbols) -> void {
-        for (const ContentSymbol& symbol : symbols) {
-            const auto lineOf = [&](std::size_t byte) {
-                return document.Lines().PositionOf(document.Text(), byte, units).line;
-            };
-            if (lineOf(symbol.end) > lineOf(symbol.begin)) {
-                ranges.push_back({{"startLine", lineOf(symbol.begin)}, {"endLine", lineOf(symbol.end)}});
-            }
-            self(self, symbol.children);
-        }
-    };
-    add(add, SymbolsOf(document));
-    return ranges;
-}
-
-LanguageServer::Json LanguageServer::WorkspaceSymbols(const Json& params) {
-    const std::u16string query = ToUnits(params.at("query").get<std::string>());
-    Json symbols = Json::array();
-    Contents contents;
-    for (const NameKind kind : {NameKind::Entity, NameKind::Particle, NameKind::Mesh, NameKind::Brush}) {
-        for (const auto& [name, file] : Index().Of(kind)) {
-            if (!ContainsIgnoringCase(name, query)) {
-                continue;
-            }
-            const Json start = {{"line", 0}, {"character", 0}};
-            const Json location = kind == NameKind::Brush ? LocationOf(kind, name, *file, contents)
-                                                          : Json{{"uri", UriOfFile(file->name)},
-                                                                 {"range", {{"start", start}, {"end", start}}}};
-            symbols.push_back({{"name", ToUtf8(name)},
-                               {"kind", 5},
-                               {"containerName", KnownNames::WhatIs(kind)},
-                               {"location", location}});
-        }
-    }
-    return symbols;
-}
-
-LanguageServer::Json LanguageServer::CodeActions(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    const std::string uri = UriIn(params);
-    const std::size_t begin = ByteOf(document, At(params, "range", "start"));
-    const std::size_t end = ByteOf(document, At(params, "range", "end"));
-    const std::int32_t firstLine = document.CheckedLineAt(begin) + 1;
-    const std::int32_t lastLine = document.CheckedLineAt(end) + 1;
-    Json actions = Json::array();
-    for (const Finding& finding : document.GetFindings()) {
-        if (finding.place.line < firstLine || finding.place.line > lastLine) {
-            continue;
-        }
-        if (const std::optional<Cure> cure = CureOf(document, finding)) {
-            const Json edit = {{"range", RangeOf(document, cure->begin, cure->end)},
-                               {"newText", WellFormed(cure->text)}};
-            actions.push_back({{"title", WellFormed(cure->title)},
-                               {"kind", "quickfix"},
-                               {"isPreferred", true},
-                               {"edit", {{"changes", {{uri, Json::array({edit})}}}}}});
-        }
-    }
-    return actions;
-}
-
-// Nothing that is wrong may be lost by it, so only a content without findings is written anew.
-LanguageServer::Json LanguageServer::Formatting(const Json& params) {
-    TextDocument& document = DocumentOf(params);
-    if (!document.GetFindings().empty()) {
-        return Json::array();
-    }
-    ContentConverter converter;
-    if (converter.Convert(document.Kind(), FileOfUri(UriIn(params)), document.Text(), FileArchiveType::Text) !=
-        ConversionResult::Converted) {
-        return Json::array();
-    }
-    const SourceText written(converter.Bytes());
-    const std::string text(written.Start(), written.End());
-    if (text == document.Text()) {
-        return Json::array();
-    }
-    return Json::array({{{"range", RangeOf(document, 0, document.Text().size())}, {"newText", text}}});
 }
 
 } // namespace Vorn

@@ -24,7 +24,8 @@ public:
     // Handles a message; one that is no JSON comes as a discarded value.
     void Handle(const Json& message, bool isCancelled = false);
 
-    // Publishes what is due. To be called when no message is waiting, so that quick typing is not checked key by key.
+    // Publishes what is due, and gets ready for requests to come. To be called when no message is waiting, so that
+    // quick typing is not checked key by key.
     void PublishChanged();
 
     // The client has asked for the end. The status is 0 if it asked for a shutdown before.
@@ -54,6 +55,7 @@ private:
     Json DidOpen(const Json& params);
     Json DidChange(const Json& params);
     Json DidClose(const Json& params);
+    Json DidSave(const Json& params);
     Json DidChangeFiles(const Json& params);
     Json DidChangeFolders(const Json& params);
     Json Complete(const Json& params);
@@ -66,9 +68,12 @@ private:
     Json CodeActions(const Json& params);
     Json Formatting(const Json& params);
 
+    static std::string UriIn(const Json& params);
     TextDocument& DocumentOf(const Json& params);
     const WorkspaceIndex& Index();
-    Json Diagnostics(TextDocument& document);
+    void Publish();
+    const Findings& FindingsOf(const std::string& uri, TextDocument& document);
+    Json Diagnostics(const std::string& uri, TextDocument& document);
     Json RangeOf(const TextDocument& document, std::size_t begin, std::size_t end) const;
     Json RangeOf(const TextDocument& document, const FindingPlace& place) const;
     std::size_t ByteOf(const TextDocument& document, const Json& position) const;
@@ -83,6 +88,8 @@ private:
     bool isShutDown = false;
     bool hasEnded = false;
     bool hasSnippets = false;
+    bool watchesFiles = false;
+    bool looksUpNames = true;
     // By their URIs.
     std::map<std::string, TextDocument> documents;
     std::set<std::string> changed;

@@ -90,9 +90,9 @@ void TextDocument::FindLines() {
     }
 }
 
-const Findings& TextDocument::GetFindings() {
+const Findings& TextDocument::GetFindings(const KnownNames* names) {
     if (!findings) {
-        findings = CheckContent(kind, text);
+        findings = CheckContent(kind, text, {names});
     }
     return *findings;
 }

@@ -52,9 +52,15 @@ public:
     void Replace(std::size_t begin, std::size_t end, std::string_view replacement);
     void SetText(std::string _text);
 
-    // What a check of the text finds, and the fields that it reads. Both are made once for every change.
-    const Findings& GetFindings();
+    // What a check of the text finds, and the fields that it reads. Both are made once for every change, the findings
+    // also after ForgetFindings. Names are looked up in `names`, which may be null.
+    const Findings& GetFindings(const KnownNames* names);
     const TextFields& Fields();
+    void ForgetFindings() { findings.reset(); }
+
+    // The number that the client gives to the text; nothing if it gives none.
+    std::optional<std::int32_t> Version() const { return version; }
+    void SetVersion(std::optional<std::int32_t> _version) { version = _version; }
 
     // Where lines begin as a check counts them, which end with line feeds alone.
     std::size_t CheckedLineStart(std::int32_t line) const;
@@ -66,6 +72,7 @@ private:
 
     ContentKind kind;
     std::string text;
+    std::optional<std::int32_t> version;
     LineIndex lines;
     std::vector<std::size_t> checkedStarts;
     std::optional<Findings> findings;

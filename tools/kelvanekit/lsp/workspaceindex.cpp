@@ -2,6 +2,8 @@
 
 #include "tools/kelvanekit/namelists.h"
 
+#include <algorithm>
+
 namespace Vorn {
 
 void WorkspaceIndex::Walk(const std::vector<std::string>& folders) {
@@ -12,8 +14,12 @@ void WorkspaceIndex::Walk(const std::vector<std::string>& folders) {
     SourceOptions options;
     options.names = folders;
     files = FindSources(options).files;
+    const bool hasEntities = std::ranges::count(files, ContentKind::Entity, &SourceFile::kind) > 1;
     FindNames(files, [&](const std::u16string& name, const SourceFile& file) {
         definitions[static_cast<std::size_t>(NameKindOf(file.kind))].emplace(name, &file);
+        if (file.kind != ContentKind::Entity || hasEntities) {
+            AddName(name, file, names);
+        }
     });
 }
 

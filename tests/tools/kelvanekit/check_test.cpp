@@ -231,8 +231,8 @@ TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {
               "3 wrong-type entityType\n");
 }
 
-TEST(CheckTest, WhatOtherToolsLeaveIsTold) {
-    const auto told = [](const std::string& bytes) {
+TEST(CheckTest, WhatOtherToolsLeaveIsExplained) {
+    const auto explained = [](const std::string& bytes) {
         const Findings findings = CheckContent(ContentKind::Entity, bytes);
         std::string result = std::to_string(findings.size());
         for (const Finding& finding : findings) {
@@ -241,7 +241,7 @@ TEST(CheckTest, WhatOtherToolsLeaveIsTold) {
         return result;
     };
     const auto edited = [&](std::string_view to) {
-        return told(Edited("frigate_lancer.entity", "baseRange 4200.000000", to));
+        return explained(Edited("frigate_lancer.entity", "baseRange 4200.000000", to));
     };
     EXPECT_EQ(edited("// not farther\r\n# than that\r\nbaseRange 4200").substr(0, 49),
               "2; a comment stands in the way of all keys behind");
@@ -254,21 +254,21 @@ TEST(CheckTest, WhatOtherToolsLeaveIsTold) {
         EXPECT_EQ(edited(attached),
                   "1; a blank, and nothing else, should stand between the key `baseRange` and its value; ");
     }
-    EXPECT_EQ(told(Edited("frigate_lancer.entity", "\"Siege\"", "\u201CSiege\u201D")),
+    EXPECT_EQ(explained(Edited("frigate_lancer.entity", "\"Siege\"", "\u201CSiege\u201D")),
               "1; `\u201CSiege\u201D` stands in other quotes than \"; write `\"Siege\"`");
     const std::string& sound = SampleNamed("frigate_lancer.entity").bytes;
-    EXPECT_EQ(told(sound + sound.substr(3)),
+    EXPECT_EQ(explained(sound + sound.substr(3)),
               "1; content behind the last key is left out; a second file seems to follow: take it out");
     const std::size_t keys = sound.find("entityType");
-    EXPECT_EQ(told(sound.substr(keys)),
+    EXPECT_EQ(explained(sound.substr(keys)),
               "1; the first line should be `TXT2`; a file begins with `TXT2` and the line of its version");
     std::string returns = sound;
     std::erase(returns, '\n');
-    EXPECT_EQ(told(returns).substr(0, 45), "1; the lines end in a carriage return alone: ");
-    EXPECT_EQ(told("").substr(0, 20), "1; the file is empty");
-    EXPECT_EQ(told({"T\0X\0T\0"
-                    "2\0",
-                    8})
+    EXPECT_EQ(explained(returns).substr(0, 45), "1; the lines end in a carriage return alone: ");
+    EXPECT_EQ(explained("").substr(0, 20), "1; the file is empty");
+    EXPECT_EQ(explained({"T\0X\0T\0"
+                         "2\0",
+                         8})
                   .substr(0, 47),
               "1; the file is no text that can be read: perhap");
 }

@@ -82,6 +82,8 @@ struct AskedField {
     std::int32_t kept = kNone;
 
     bool IsMissing() const { return line == kNone && offset == kNone; }
+    // Of a count: whether there are entries that the list has no room for.
+    bool IsOverfull() const { return !ListShape{label, rule, capacity}.HasRoomFor(value); }
 };
 
 using AskedFields = std::vector<AskedField>;

@@ -145,11 +145,9 @@ private:
         }
     }
 
-    // What is cut out of a list with too many entries is told at its count.
+    // What is cut out of a list with too many entries is reported at its count.
     bool IsInFullList(const AskedField& field) const {
-        return IsInList(field, [](const AskedField& list) {
-            return list.capacity != ListShape::kUnlimited && list.value > list.capacity;
-        });
+        return IsInList(field, [](const AskedField& list) { return list.IsOverfull(); });
     }
 
     void Compare(const AskedField& field, const WrittenLine& written) {

@@ -49,12 +49,12 @@ std::int32_t IndentationOf(std::string_view line);
 // The text up to the next white space behind the indentation.
 std::string_view KeyOf(std::string_view line);
 
-// A text with its capitals as small letters.
 // What a line is that no content has, by its key: a comment of other languages, or the marks that a merge leaves around
 // lines it could not decide on.
 enum class Remark { None, Comment, MergeBegin, MergeMiddle, MergeEnd };
 Remark RemarkOf(std::string_view key);
 
+// A text with its capitals as small letters.
 std::string Lowered(std::string_view text);
 
 // A text without the white space at its ends.

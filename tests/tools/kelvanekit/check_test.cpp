@@ -214,6 +214,8 @@ TEST(CheckTest, ValuesThatAreNotKeptAreTold) {
     EXPECT_EQ(check("signal-buoy.mesh", "TXT2", "TXT2" + std::string(251, ' ')), "line-too-long \n");
     EXPECT_EQ(
         Shown(CheckContent(ContentKind::Mesh, Edited("signal-buoy.mesh", "TXT2", "TXT2" + std::string(250, ' ')))), "");
+    EXPECT_EQ(check("starbaseupgrade_armor.entity", "value 0.500000", "value 0.000000"),
+              "rewritten stage[0].upgradeProperty[0].value\n");
     EXPECT_EQ(check("signal-buoy.mesh", "iVertex0 0", "iVertex0 36"),
               "index-out-of-range MeshData.Triangle[0].iVertex0\n");
 }

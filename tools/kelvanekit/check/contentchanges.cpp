@@ -63,6 +63,8 @@ public:
                        lines[line].depth > depth) {
                     ++line;
                 }
+            } else if (IsInFullList(asks[ask])) {
+                Drop(1);
             } else {
                 Resynchronise();
             }

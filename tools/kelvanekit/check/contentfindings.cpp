@@ -5,6 +5,7 @@
 #include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
 
 namespace Vorn {
@@ -64,6 +65,16 @@ bool HasFinding(const Findings& findings, const std::string& path) {
     });
 }
 
+// The value of an entry that begins with the key of its row, if it is 0.
+std::int32_t ZeroBehind(const FieldReader& reader, std::int32_t rowAsk) {
+    const AskedFields& asks = reader.Asks();
+    const auto value = static_cast<std::size_t>(rowAsk) + 1;
+    const bool isValue = value < asks.size() && asks[value].kind == FieldKind::Float && !asks[value].IsMissing() &&
+                         asks[value].parent == asks[value - 1].parent;
+    return isValue && std::strtod(std::string(reader.ValueOf(asks[value])).c_str(), nullptr) == 0.0 ? rowAsk + 1
+                                                                                                    : kNone;
+}
+
 void NoteKeyedList(FieldReader& reader, std::int32_t list) {
     const AskedFields& asks = reader.Asks();
     if (HasFinding(reader.GetFindings(), PathOf(asks, list))) {
@@ -87,6 +98,8 @@ void NoteKeyedList(FieldReader& reader, std::int32_t list) {
                      '`' + ToUtf8(field->table->rows[field->value]) +
                          "` stands in the list already: the last one is kept")
                 .help = "take one of them out";
+        } else if (const std::int32_t zero = ZeroBehind(reader, ask); zero != kNone) {
+            reader.Add(Code("rewritten"), zero, "an entry of the value 0 is left out: without it the value is 0 too");
         }
     }
 }

@@ -49,6 +49,8 @@ struct OpenList {
     std::int32_t entryAsk = kNone;
     // How many records it stands in.
     std::int32_t depth = 0;
+    // The line behind that of its count.
+    std::int32_t firstLine = kNone;
     // The line ahead when it ended.
     std::int32_t endLine = kNone;
     std::int32_t endAsk = kNone;

@@ -326,7 +326,11 @@ private:
         const Mismatch& at = trial.mismatch;
         const std::int32_t group = GroupLength(at.line);
         const bool isDoubled = at.line > 0 && Key(at.line - 1) == Key(at.line);
-        const bool isSame = isDoubled && Trimmed(text.Line(at.line - 1)) == Trimmed(text.Line(at.line));
+        const auto isSameAs = [&](std::int32_t line) {
+            return line >= 0 && Trimmed(text.Line(line)) == Trimmed(text.Line(at.line));
+        };
+        // One more of many equal lines is one more entry.
+        const bool isSame = isDoubled && isSameAs(at.line - 1) && !isSameAs(at.line - 2);
         const bool isSurplus = std::ranges::any_of(at.endedLists, [](const OpenList& list) {
             return list.shape.rule == ListRule::Fatal && list.count > list.shape.limit;
         });
@@ -337,7 +341,7 @@ private:
         skip(isSame ? Weight::kSameLine : isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
         if (group > 1) {
             // An entry more than a count says is a mistake of the count.
-            skip(!at.endedLists.empty() && FollowsItsLike(at.line) ? Weight::kEntry : Weight::kGroup, group);
+            skip(IsEntry(at) ? Weight::kEntry : Weight::kGroup, group);
         }
         if (at.label.empty()) {
             const std::int32_t rest = text.LineCount() - at.line;
@@ -367,14 +371,11 @@ private:
         return end - line;
     }
 
-    // Whether the group or line in front has the same key.
-    bool FollowsItsLike(std::int32_t line) const {
-        const std::int32_t indentation = IndentationOf(text.Line(line));
-        std::int32_t before = line - 1;
-        while (before > 0 && IndentationOf(text.Line(before)) > indentation) {
-            --before;
-        }
-        return before > 0 && IndentationOf(text.Line(before)) == indentation && Key(before) == Key(line);
+    // Whether a line looks like one more entry of a list that has just ended.
+    bool IsEntry(const Mismatch& at) const {
+        return std::ranges::any_of(at.endedLists, [&](const OpenList& list) {
+            return list.entries > 0 && Key(list.firstLine) == Key(at.line);
+        });
     }
 
     bool HasMendBehind(const Trial& trial, std::int32_t ask) const {

@@ -198,7 +198,8 @@ void TextReader::TakeLine(Label label, FieldKind kind) {
     const std::string_view key = KeyOf(takenText);
     valueBegin = indentation + (kind == FieldKind::Row ? 0 : key.size());
     isLineSound = NoteLine(takenText);
-    const std::size_t signEnd = kind == FieldKind::Row ? 0 : EndOfSign(takenText, label);
+    const bool isGroup = kind == FieldKind::Record || kind == FieldKind::Matrix33 || kind == FieldKind::Matrix44;
+    const std::size_t signEnd = kind == FieldKind::Row || isGroup ? 0 : EndOfSign(takenText, label);
     if (kind != FieldKind::Row && (signEnd > 0 || !IsLabel(key, label))) {
         valueBegin = signEnd > 0 ? signEnd : valueBegin;
         NoteMisspelt(label, takenText.substr(indentation, valueBegin - indentation), signEnd > 0);
@@ -431,6 +432,7 @@ std::int32_t TextReader::CountOf(std::int32_t given, bool isRead) {
     list.ask = askCount - 1;
     list.shape = nextList;
     list.depth = depth;
+    list.firstLine = cursor.Line();
     const bool isOdd = nextList.rule == ListRule::Exact && given != nextList.limit;
     list.isDoubtful = !isRead || !isValueClean || given < 0 || isOdd;
     list.count = list.isDoubtful && !isOdd ? 0 : given;

@@ -51,8 +51,8 @@ TextReader::TextReader(const SourceText& _text, const TextHeader& _header, Mode 
     : FieldReaderForm(_mode, _names), text(_text), header(_header), askMends(MendsOf(mends, false)),
       cursor(_text, MendsOf(mends, true)) {
     std::ranges::stable_sort(askMends, {}, &Mend::ask);
-    if (header.firstLine > 0) {
-        cursor.GoTo(header.firstLine);
+    for (std::int32_t line = 0; line < header.firstLine && !cursor.IsAtEnd(); ++line) {
+        cursor.Pass();
     }
     hasVersion = header.hasVersion;
     UpdateStops();

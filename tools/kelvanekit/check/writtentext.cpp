@@ -15,19 +15,23 @@ namespace {
 
 constexpr std::size_t kMarkSize = 3;
 
+// Keeps what is written in a string, but for the first bytes.
 class StringStream final : public ByteStream {
 public:
-    explicit StringStream(std::string& _bytes) : bytes(_bytes) {}
+    StringStream(std::string& _bytes, std::size_t _skipped) : bytes(_bytes), skipped(_skipped) {}
 
     std::ptrdiff_t Read(void*, std::size_t) override { return -1; }
     bool Write(const void* part, std::size_t count) override {
-        bytes.append(static_cast<const char*>(part), count);
+        const std::size_t left = std::min(skipped, count);
+        bytes.append(static_cast<const char*>(part) + left, count - left);
+        skipped -= left;
         return true;
     }
     bool Close() override { return true; }
 
 private:
     std::string& bytes;
+    std::size_t skipped;
 };
 
 // Takes the next number or mark of a value.
@@ -64,11 +68,12 @@ std::string_view TakeTextLine(std::string_view& text) {
 } // namespace
 
 std::unique_ptr<ByteStream> WrittenFile::Store::Open(std::u16string_view, FileAccess) {
-    return std::make_unique<StringStream>(bytes);
+    return std::make_unique<StringStream>(bytes, markSize);
 }
 
-WrittenFile::WrittenFile(FileArchiveType form, std::size_t expectedSize) {
-    bytes.reserve(expectedSize + expectedSize / 8 + kMarkSize);
+WrittenFile::WrittenFile(FileArchiveType form, std::size_t expectedSize)
+    : store(bytes, form == FileArchiveType::Text ? kMarkSize : 0) {
+    bytes.reserve(expectedSize + expectedSize / 8);
     if (form == FileArchiveType::Text) {
         file = files.Open(u"written", FileAccess::Write, FileTranslation::Text);
         archive = std::make_unique<TextFileArchive>(file, false);
@@ -82,11 +87,9 @@ WrittenFile::~WrittenFile() {
     Finish();
 }
 
-const std::string& WrittenFile::Finish() {
+std::string& WrittenFile::Finish() {
     if (file != nullptr) {
-        const bool hasMark = file->GetTranslation() == FileTranslation::Text;
         files.Close(std::exchange(file, nullptr));
-        bytes.erase(0, hasMark ? kMarkSize : 0);
     }
     return bytes;
 }
@@ -114,7 +117,7 @@ std::string WriteContent(LoadedContent& content, FileArchiveType form, std::size
     // The checks of records while they are written repeat those of reading.
     const DroppedReports reports;
     content.Write(written.GetArchive());
-    return written.Finish();
+    return std::move(written.Finish());
 }
 
 bool IsSameValue(std::string_view left, std::string_view right) {

@@ -20,22 +20,23 @@ public:
     Archive& GetArchive() { return *archive; }
 
     // All that was written, without byte-order mark. Nothing can be written any more.
-    const std::string& Finish();
+    std::string& Finish();
 
 private:
     class Store final : public FileStore {
     public:
-        explicit Store(std::string& _bytes) : bytes(_bytes) {}
+        Store(std::string& _bytes, std::size_t _markSize) : bytes(_bytes), markSize(_markSize) {}
 
         std::unique_ptr<ByteStream> Open(std::u16string_view name, FileAccess access) override;
         bool Exists(std::u16string_view) const override { return true; }
 
     private:
         std::string& bytes;
+        const std::size_t markSize;
     };
 
     std::string bytes;
-    Store store{bytes};
+    Store store;
     FileSystem files{store};
     File* file;
     std::unique_ptr<Archive> archive;

@@ -205,7 +205,7 @@ Right:
 It is written as something else, or left out, although nothing is wrong with it by
 itself. The message tells what becomes of it.
 )"},
-    {"rewritten", Severity::Note, R"(A group is written in a shorter form that means the same.
+    {"rewritten", Severity::Note, R"(A group is written in a shorter form, or left out, which means the same.
 Nothing is lost by it.
 )"},
 

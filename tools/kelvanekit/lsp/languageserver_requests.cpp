@@ -3,6 +3,7 @@
 #include "tools/kelvane/contentconverter.h"
 #include "tools/kelvanekit/check/sourcetext.h"
 #include "tools/kelvanekit/fileuri.h"
+#include "tools/kelvanekit/findings/findingcodes.h"
 #include "tools/kelvanekit/inputfile.h"
 #include "tools/kelvanekit/lsp/contentfeatures.h"
 #include "tools/kelvanekit/visibletext.h"
@@ -14,6 +15,10 @@
 namespace Vorn {
 
 namespace {
+
+bool IsOfName(const Finding& finding) {
+    return finding.code == Code("unresolved-name") || finding.code == Code("wrong-class");
+}
 
 // The part of a text that another one has something else for, as whole lines.
 struct ChangedPart {
@@ -212,10 +217,11 @@ LanguageServer::Json LanguageServer::CodeActions(const Json& params) {
     return actions;
 }
 
-// Nothing that is wrong may be lost by it, so only a content without findings is written anew.
+// Nothing that is wrong may be lost by it, so only a content without findings is written anew. Names are kept as they
+// are.
 LanguageServer::Json LanguageServer::Formatting(const Json& params) {
     TextDocument& document = DocumentOf(params);
-    if (!CheckContent(document.Kind(), document.Text()).empty()) {
+    if (!std::ranges::all_of(FindingsOf(UriIn(params), document), IsOfName)) {
         return Json::array();
     }
     ContentConverter converter;

@@ -188,7 +188,7 @@ void BinaryReader::Read(Label label, char16_t* buffer, int bufferSize) {
     }
     nextTable = nullptr;
     NoteName(text);
-    KeepText(TextIn(buffer, bufferSize));
+    KeepText({buffer, bufferSize});
 }
 
 // What the line of a text form could not hold.

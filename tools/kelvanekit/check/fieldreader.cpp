@@ -106,9 +106,9 @@ bool FieldReader::OnEntry(std::int32_t entry) {
     return true;
 }
 
-void FieldReader::KeepText(std::u16string_view text) {
+void FieldReader::KeepText(StringBuffer text) {
     if (kept != nullptr) {
-        asks.back().kept = kept->KeepText(text);
+        asks.back().kept = kept->KeepText(TextIn(text.m_Buffer, text.m_BufferSize));
     }
 }
 

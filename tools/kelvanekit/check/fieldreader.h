@@ -116,7 +116,7 @@ protected:
             asks.back().kept = kept->Keep(value);
         }
     }
-    void KeepText(std::u16string_view text);
+    void KeepText(StringBuffer text);
 
     // Runs what reads the fields of a group.
     template <class ReadFields>

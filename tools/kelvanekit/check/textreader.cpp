@@ -419,11 +419,11 @@ void TextReader::Read(Label label, char16_t* buffer, int bufferSize) {
         AddChoice(choice.table, choice.row, !choice.isKnown);
     }
     nextTable = nullptr;
-    if (isRead) {
+    if (isRead && nextName != NameKind::None && names != nullptr) {
         NoteName(TextIn(buffer, bufferSize));
     }
     nextName = NameKind::None;
-    KeepText(TextIn(buffer, bufferSize));
+    KeepText({buffer, bufferSize});
 }
 
 // How many entries a list is said to have, which is never more than there could be.

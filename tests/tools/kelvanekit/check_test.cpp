@@ -275,6 +275,17 @@ TEST(CheckTest, WhatOtherToolsLeaveIsExplained) {
               "1; the file is no text that can be read: perhap");
 }
 
+// Of two keys that take turns the second one may be missing, too: their values tell.
+TEST(CheckTest, AKeyWithAnotherValueIsNotTakenForDoubled) {
+    const std::string& bytes = SampleNamed("beam-impact.particle").bytes;
+    const std::size_t group = bytes.find("\tEmitterContents", bytes.find("\"Ring\""));
+    const std::size_t next = bytes.find("\tEmitterType", group);
+    const std::string cut = bytes.substr(0, group) + bytes.substr(next);
+    const Findings findings = CheckContent(ContentKind::Particle, cut);
+    ASSERT_EQ(findings.size(), 1U) << Shown(findings);
+    EXPECT_EQ(findings[0].code, Code("missing-section"));
+}
+
 // What stands far from where a key of its name is missing has nothing to do with it.
 TEST(CheckTest, OnlyWhatStandsNearIsTakenForMoved) {
     std::string bytes = Edited("frigate_lancer.entity", "\tLevel:1 15.000000\r\n", "");

@@ -36,8 +36,9 @@ constexpr double kRemark = 0.5;
 constexpr double kSameLine = 0.9;
 constexpr double kMisspelt = 0.92;
 constexpr double kCount = 0.95;
-constexpr double kDoubledLine = 0.97;
 constexpr double kOneLine = 1.0;
+// With another value, which may as well be that of another entry.
+constexpr double kDoubledLine = 1.03;
 constexpr double kSwapped = 1.05;
 constexpr double kGroup = 1.2;
 constexpr double kRest = 1.3;

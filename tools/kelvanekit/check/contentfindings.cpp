@@ -2,6 +2,7 @@
 
 #include "tools/kelvanekit/check/failedcheck.h"
 #include "tools/kelvanekit/check/sourcetext.h"
+#include "tools/kelvanekit/check/writtentext.h"
 #include "tools/kelvanekit/findings/findingcodes.h"
 
 #include <algorithm>
@@ -71,8 +72,7 @@ std::int32_t ZeroBehind(const FieldReader& reader, std::int32_t rowAsk) {
     const auto value = static_cast<std::size_t>(rowAsk) + 1;
     const bool isValue = value < asks.size() && asks[value].kind == FieldKind::Float && !asks[value].IsMissing() &&
                          asks[value].parent == asks[value - 1].parent;
-    return isValue && std::strtod(std::string(reader.ValueOf(asks[value])).c_str(), nullptr) == 0.0 ? rowAsk + 1
-                                                                                                    : kNone;
+    return isValue && IsSameValue(reader.ValueOf(asks[value]), "0.000000") ? rowAsk + 1 : kNone;
 }
 
 void NoteKeyedList(FieldReader& reader, std::int32_t list) {
@@ -223,13 +223,14 @@ std::vector<std::int32_t> AsksOf(const AskedFields& asks, const FailedCheck& che
     return result;
 }
 
-std::string LastKeyOf(const std::string& path) {
-    const std::string key = path.substr(path.rfind('.') + 1);
+std::string_view LastKeyOf(std::string_view path) {
+    const std::string_view key = path.substr(path.rfind('.') + 1);
     return key.substr(0, key.find('['));
 }
 
-std::string GroupOf(const std::string& path) {
-    return path.find('.') == std::string::npos ? std::string() : path.substr(0, path.rfind('.'));
+std::string_view GroupOf(std::string_view path) {
+    const std::size_t end = path.rfind('.');
+    return path.substr(0, end == std::string_view::npos ? 0 : end);
 }
 
 // Whether what stands at one place is what lacks at another: in the same group, or not far away.

@@ -252,8 +252,8 @@ const WorkspaceIndex& LanguageServer::Index() {
     if (!isIndexed) {
         index.Walk(folders);
         isIndexed = true;
-        for (auto& [uri, document] : documents) {
-            if (looksUpNames) {
+        if (looksUpNames) {
+            for (auto& [uri, document] : documents) {
                 document.ForgetFindings();
                 changed.insert(uri);
             }

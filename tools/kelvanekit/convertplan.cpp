@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace Vorn {
 
@@ -13,14 +14,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-#ifdef _WIN32
-constexpr std::string_view kSlashes = "/\\";
-#else
-constexpr std::string_view kSlashes = "/";
-#endif
+bool IsSlash(char letter) {
+    return letter == '/' || letter == fs::path::preferred_separator;
+}
+
+// Where the last name begins.
+std::size_t LeafOf(std::string_view name) {
+    std::size_t leaf = name.size();
+    while (leaf > 0 && !IsSlash(name[leaf - 1])) {
+        --leaf;
+    }
+    return leaf;
+}
 
 bool EndsInSlash(const std::string& name) {
-    return !name.empty() && kSlashes.find(name.back()) != std::string_view::npos;
+    return !name.empty() && IsSlash(name.back());
 }
 
 bool IsFolder(const std::string& name) {
@@ -28,44 +36,81 @@ bool IsFolder(const std::string& name) {
     return fs::is_directory(PathOf(name), error);
 }
 
-// Tells whether two names are of one file. The folder of a name is looked up once.
+#ifdef _WIN32
+// Capitals are not told from small letters.
+constexpr char Folded(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+#else
+constexpr char Folded(char letter) {
+    return letter;
+}
+#endif
+
+// Two are equal if they are of one file.
+struct FileIdentity {
+    bool operator==(const FileIdentity& other) const {
+        return folder == other.folder && std::ranges::equal(leaf, other.leaf, {}, Folded, Folded);
+    }
+
+    // The number of the folder, and the name in it.
+    std::size_t folder;
+    std::string_view leaf;
+};
+
+struct FileIdentityHash {
+    std::size_t operator()(const FileIdentity& identity) const {
+        std::size_t hash = identity.folder;
+        for (const char letter : identity.leaf) {
+            hash = (hash ^ static_cast<unsigned char>(Folded(letter))) * 1099511628211U;
+        }
+        return hash;
+    }
+};
+
+// Each folder is looked up once.
 class FileIdentities {
 public:
-    std::string Of(const std::string& name) {
-        const std::size_t slash = name.find_last_of(kSlashes);
-        const std::size_t leaf = slash == std::string::npos ? 0 : slash + 1;
-        return Folded(Folder(name.substr(0, leaf)) + '/' + name.substr(leaf));
+    // Refers to the name.
+    FileIdentity Of(std::string_view name) {
+        const std::size_t leaf = LeafOf(name);
+        const std::string_view folder = name.substr(0, leaf);
+        // Files of one folder mostly follow each other.
+        if (numbers.empty() || folder != last) {
+            last = folder;
+            const auto [found, isNew] = numbers.try_emplace(last);
+            if (isNew) {
+                found->second = folders.try_emplace(CanonicalName(last), folders.size()).first->second;
+            }
+            number = found->second;
+        }
+        return {number, name.substr(leaf)};
     }
 
 private:
-    const std::string& Folder(const std::string& name) {
-        const auto [found, isNew] = folders.try_emplace(name);
-        if (isNew) {
-            std::error_code error;
-            const fs::path path = fs::weakly_canonical(fs::absolute(PathOf(name.empty() ? "." : name), error), error);
-            found->second = error ? name : NameOf(path);
-        }
-        return found->second;
-    }
-
-    // Windows does not tell capitals from small letters.
-    static std::string Folded(std::string name) {
-#ifdef _WIN32
-        std::ranges::transform(name, name.begin(), [](char letter) {
-            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-        });
-#endif
+    static std::string CanonicalName(const std::string& folder) {
+        std::error_code error;
+        const fs::path path = fs::weakly_canonical(fs::absolute(PathOf(folder.empty() ? "." : folder), error), error);
+        std::string name = error ? folder : NameOf(path);
+        std::ranges::transform(name, name.begin(), Folded);
         return name;
     }
 
-    std::unordered_map<std::string, std::string> folders;
+    std::unordered_map<std::string, std::size_t> numbers;
+    // The numbers by the canonical names.
+    std::unordered_map<std::string, std::size_t> folders;
+    std::string last;
+    std::size_t number = 0;
 };
+
+using FileMap = std::unordered_map<FileIdentity, const SourceFile*, FileIdentityHash>;
 
 std::string DestinationIn(const std::string& folder, const SourceFile& source) {
     // Standard input may be called by any path.
-    const std::string_view tail =
-        source.isStandardInput ? source.Tail().substr(source.Tail().find_last_of(kSlashes) + 1) : source.Tail();
-    return folder + (EndsInSlash(folder) ? "" : "/") + std::string(tail);
+    const std::string_view tail = source.Tail();
+    std::string name = folder + (EndsInSlash(folder) ? "" : "/");
+    name += source.isStandardInput ? tail.substr(LeafOf(tail)) : tail;
+    return name;
 }
 
 std::string Quoted(const std::string& name) {
@@ -80,19 +125,28 @@ ConvertPlan PlanConversions(const std::vector<SourceFile>& sources, const std::v
     const bool isFolder =
         EndsInSlash(output) || IsFolder(output) || names.size() != 1 || std::ranges::any_of(names, IsFolder);
     FileIdentities identities;
-    std::unordered_map<std::string, const SourceFile*> sourceOf;
+    std::vector<FileIdentity> written;
+    std::unordered_set<std::size_t> writtenFolders;
+    // The identities refer to the destinations.
+    plan.destinations.reserve(sources.size());
     for (const SourceFile& source : sources) {
-        if (!source.isStandardInput) {
-            sourceOf.emplace(identities.Of(source.name), &source);
+        plan.destinations.push_back(isFolder ? DestinationIn(output, source) : output);
+        written.push_back(identities.Of(plan.destinations.back()));
+        writtenFolders.insert(written.back().folder);
+    }
+    FileMap sourceOf;
+    for (const SourceFile& source : sources) {
+        const FileIdentity identity = identities.Of(source.name);
+        if (!source.isStandardInput && writtenFolders.contains(identity.folder)) {
+            sourceOf.emplace(identity, &source);
         }
     }
-    std::unordered_map<std::string, const SourceFile*> writerOf;
-    for (const SourceFile& source : sources) {
-        const std::string& destination =
-            plan.destinations.emplace_back(isFolder ? DestinationIn(output, source) : output);
-        const std::string identity = identities.Of(destination);
-        const auto [writer, isFree] = writerOf.emplace(identity, &source);
-        const auto overwritten = sourceOf.find(identity);
+    FileMap writerOf(sources.size());
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        const SourceFile& source = sources[i];
+        const std::string& destination = plan.destinations[i];
+        const auto [writer, isFree] = writerOf.emplace(written[i], &source);
+        const auto overwritten = sourceOf.find(written[i]);
         if (!isFree) {
             plan.problems.push_back(Quoted(writer->second->name) + " and " + Quoted(source.name) +
                                     " would both become " + Quoted(destination));

@@ -17,8 +17,9 @@ struct DestinationOptions {
 // the destination. Whatever fails and whenever the process is killed, the destination holds what it held or all of the
 // new bytes. A file that holds the bytes already is left alone.
 //
-// The temporary file of a destination has one name and is locked while it is written. A second run waits for the lock;
-// one that is not locked was left by a run that was killed, and is removed.
+// The temporary file of a new destination has no name until it is whole, where the system can do that. That of another
+// has one name and is locked while it is written: a second run waits for the lock, and one that is not locked was left
+// by a run that was killed, and is removed.
 //
 // Folders that are not there are made, a link is followed, permissions are kept, and what is no regular file is written
 // to directly. Each thread needs its own writer, and no two may write to one destination at a time.

@@ -26,6 +26,7 @@ using namespace std::chrono_literals;
 using FileStatus = struct stat;
 
 constexpr mode_t kPermissions = 07777;
+constexpr mode_t kNewMode = 0666;
 constexpr int kMostLinks = 40;
 constexpr auto kPatience = 30s;
 
@@ -114,7 +115,7 @@ bool Holds(const Descriptor& file, const FileStatus& status, std::string_view by
     return true;
 }
 
-// Some file systems tell only here that there was no room. The copy is closed, so that the lock stays.
+// Some file systems tell only here that there was no room. A copy is closed, since the descriptor still holds the file.
 void CloseCopy(const Descriptor& file) {
     const int copy = fcntl(file.Number(), F_DUPFD_CLOEXEC, 0);
     FailUnless(copy >= 0);
@@ -283,12 +284,18 @@ public:
 
     // Writes a file, or returns what the link of that name leads to.
     std::optional<std::string> Write(const std::string& leaf, std::string_view bytes) {
+        // Behind a new file the next is mostly new, too, and the search for it would hinder other threads.
+        if (newFiles == NewFiles::Expected && WriteNew(leaf, bytes)) {
+            return std::nullopt;
+        }
         Descriptor old = OpenAt(descriptor.Number(), leaf, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
         FileStatus status = {};
         if (old.IsOpen()) {
             status = StatusOf(old);
         } else if (errno == ENOENT) {
-            Replace(leaf, bytes, nullptr);
+            if (newFiles == NewFiles::Impossible || !WriteNew(leaf, bytes)) {
+                Replace(leaf, bytes, nullptr);
+            }
             return std::nullopt;
         } else {
             const int error = errno;
@@ -316,6 +323,9 @@ public:
     }
 
 private:
+    // Whether files can be written by WriteNew.
+    enum class NewFiles { Impossible, Possible, Expected };
+
     void WriteDirectly(const std::string& leaf, std::string_view bytes) {
         const Descriptor device = OpenAt(descriptor.Number(), leaf, O_WRONLY | O_NOCTTY);
         FailUnless(device.IsOpen());
@@ -332,17 +342,59 @@ private:
         }
     }
 
+    // Writes a file that gets its name when it is whole. Threads that write to one folder hinder each other less by
+    // that than by temporary files, and a process that is killed leaves nothing. False if there is a file of the name,
+    // or if it cannot be done: then Replace finds the reason.
+    bool WriteNew(const std::string& leaf, std::string_view bytes) {
+        newFiles = NewFiles::Impossible;
+#ifdef O_TMPFILE
+        const Descriptor file = OpenAt(descriptor.Number(), ".", O_WRONLY | O_TMPFILE, kNewMode);
+        if (!file.IsOpen()) {
+            return false;
+        }
+        newFiles = NewFiles::Possible;
+        try {
+            WriteAll(file, bytes);
+            Complete(file);
+        } catch (const std::system_error&) {
+            return false;
+        }
+        if (Link(file, leaf)) {
+            newFiles = NewFiles::Expected;
+            isChanged = true;
+        } else if (errno != EEXIST) {
+            newFiles = NewFiles::Impossible;
+        }
+#endif
+        return newFiles == NewFiles::Expected;
+    }
+
+#ifdef O_TMPFILE
+    // Older systems let only the superuser give a name to a descriptor itself.
+    bool Link(const Descriptor& file, const std::string& leaf) const {
+        const std::string path = "/proc/self/fd/" + std::to_string(file.Number());
+        return linkat(file.Number(), "", descriptor.Number(), leaf.c_str(), AT_EMPTY_PATH) == 0 ||
+               (errno != EEXIST &&
+                linkat(AT_FDCWD, path.c_str(), descriptor.Number(), leaf.c_str(), AT_SYMLINK_FOLLOW) == 0);
+    }
+#endif
+
     void Replace(const std::string& leaf, std::string_view bytes, const FileStatus* old) {
         // Nobody else sees the content before the permissions of the old file are in force.
-        TemporaryFile temporary(descriptor.Number(), leaf, old == nullptr ? 0666 : 0600);
+        TemporaryFile temporary(descriptor.Number(), leaf, old == nullptr ? kNewMode : 0600);
         WriteAll(temporary.File(), bytes);
         if (old != nullptr) {
             TakeOverPermissions(temporary.File(), temporary.Status(), *old);
         }
-        FailUnless(!options.sync || Uninterrupted([&] { return fsync(temporary.File().Number()); }) == 0);
-        CloseCopy(temporary.File());
+        Complete(temporary.File());
         temporary.Replace(leaf);
         isChanged = true;
+    }
+
+    // Ends the writing of a file that has no name of its own yet.
+    void Complete(const Descriptor& file) const {
+        FailUnless(!options.sync || Uninterrupted([&] { return fsync(file.Number()); }) == 0);
+        CloseCopy(file);
     }
 
     bool LeadsToDevice(const std::string& leaf) const {
@@ -361,6 +413,7 @@ private:
     const DestinationOptions& options;
     Descriptor descriptor;
     bool isChanged = false;
+    NewFiles newFiles = NewFiles::Possible;
 };
 
 DestinationWriter::DestinationWriter(const DestinationOptions& _options) : options(_options) {}

@@ -17,9 +17,10 @@ inline unsigned ProcessorCount() {
     return std::max(1U, std::thread::hardware_concurrency());
 }
 
-// Runs work(index, worker) for each index below `count`, in up to `jobs` threads, and take(index, result) in this
-// thread for each result, in the order of the indices. `worker` is below `jobs`, and no two calls at a time have the
-// same. Ends early when `take` returns false, and with the first exception of any call.
+// Runs work(index, worker) for each index below `count`, in up to `jobs` threads of which this is one, and
+// take(index, result) for each result: one at a time and in the order of the indices, in whichever thread is at hand.
+// `worker` is below `jobs`, and no two calls at a time have the same. Ends early when `take` returns false, and with
+// the first exception of any call.
 template <class Work, class Take>
 class OrderedJobs {
 public:
@@ -36,7 +37,7 @@ public:
         slots.resize(std::min(count, jobs * kWindowPerJob * batch));
         {
             const Threads threads(*this, jobs);
-            TakeAll();
+            WorkOn(0);
         }
         if (failure) {
             std::rethrow_exception(failure);
@@ -51,32 +52,27 @@ private:
     static constexpr std::size_t kLargestBatch = 16;
     static constexpr std::size_t kWindowPerJob = 16;
 
-    // The threads, which end when the results are taken or one of them failed.
+    // The threads beside this one.
     class Threads {
     public:
-        Threads(OrderedJobs& _jobs, unsigned number) : jobs(_jobs) {
-            for (unsigned worker = 0; worker < number; ++worker) {
-                try {
-                    threads.emplace_back([this, worker] { jobs.WorkOn(worker); });
-                } catch (const std::system_error&) {
-                    if (threads.empty()) {
-                        throw;
-                    }
-                    break;
+        Threads(OrderedJobs& jobs, unsigned number) {
+            try {
+                for (unsigned worker = 1; worker < number; ++worker) {
+                    threads.emplace_back([&jobs, worker] { jobs.WorkOn(worker); });
                 }
+            } catch (const std::system_error&) {
+                // Those that there are do the work.
             }
         }
         Threads(const Threads&) = delete;
         Threads& operator=(const Threads&) = delete;
         ~Threads() {
-            jobs.Stop(nullptr);
             for (std::thread& thread : threads) {
                 thread.join();
             }
         }
 
     private:
-        OrderedJobs& jobs;
         std::vector<std::thread> threads;
     };
 
@@ -87,9 +83,7 @@ private:
                 for (std::size_t i = begin; i < end; ++i) {
                     slots[i % slots.size()] = work(i, worker);
                 }
-                const std::lock_guard lock(mutex);
-                finished.push_back(begin);
-                somethingDone.notify_one();
+                HandIn(begin);
             }
         } catch (...) {
             Stop(std::current_exception());
@@ -108,28 +102,26 @@ private:
         return stopped ? count : begin;
     }
 
-    void TakeAll() {
-        while (taken < count) {
-            const std::size_t begin = taken;
-            const std::size_t end = std::min(count, begin + batch);
-            {
-                std::unique_lock lock(mutex);
-                const auto isDone = [&] { return stopped || std::ranges::find(finished, begin) != finished.end(); };
-                somethingDone.wait(lock, isDone);
-                if (stopped) {
-                    return;
-                }
-                std::erase(finished, begin);
-            }
-            for (std::size_t i = begin; i < end; ++i) {
+    // Takes the results of a finished batch and of those behind it that waited for it. Another thread does so if it is
+    // at it or has one in front.
+    void HandIn(std::size_t begin) {
+        std::unique_lock lock(mutex);
+        finished.push_back(begin);
+        while (!stopped && !isTaking && std::erase(finished, taken) > 0) {
+            isTaking = true;
+            lock.unlock();
+            const std::size_t end = std::min(count, taken + batch);
+            for (std::size_t i = taken; i < end; ++i) {
                 std::optional<Result>& slot = slots[i % slots.size()];
                 if (!take(i, std::move(*slot))) {
+                    Stop(nullptr);
                     return;
                 }
                 slot.reset();
             }
-            const std::lock_guard lock(mutex);
+            lock.lock();
             taken = end;
+            isTaking = false;
             somethingTaken.notify_all();
         }
     }
@@ -140,7 +132,6 @@ private:
         if (!failure) {
             failure = std::move(reason);
         }
-        somethingDone.notify_all();
         somethingTaken.notify_all();
     }
 
@@ -152,10 +143,11 @@ private:
     std::vector<std::optional<Result>> slots;
 
     std::mutex mutex;
-    std::condition_variable somethingDone;
     std::condition_variable somethingTaken;
     std::size_t next = 0;
+    // Changed by the thread alone that takes results.
     std::size_t taken = 0;
+    bool isTaking = false;
     std::vector<std::size_t> finished;
     bool stopped = false;
     std::exception_ptr failure;

@@ -26,10 +26,22 @@ public:
                 AddNamed(name);
             }
         }
+        if (hasOtherNames) {
+            LeaveOutRepeated();
+        }
         return std::move(sources);
     }
 
 private:
+    // Tells whether two files are one: by the canonical name, or where that is empty by the folder that was walked and
+    // the name in it, which begins at `leaf`.
+    struct Origin {
+        const std::string* folder;
+        std::size_t leaf;
+        std::string canonical;
+    };
+
+    // What a folder has, by its name with that of the folder.
     struct Entry {
         std::string name;
         bool isLink;
@@ -41,8 +53,8 @@ private:
         const std::optional<ContentKind> kind = options.type ? options.type : ContentKindOfFile(options.stdinName);
         if (!kind) {
             sources.problems.push_back("standard input: give its type by --type, or a name by --stdin-name");
-        } else if (seen.insert("-").second) {
-            sources.files.push_back({options.stdinName.empty() ? "<stdin>" : options.stdinName, *kind, true, 0});
+        } else {
+            AddFile({options.stdinName.empty() ? "<stdin>" : options.stdinName, *kind, true, 0}, {nullptr, 0, "-"});
         }
     }
 
@@ -65,56 +77,56 @@ private:
             }
             // Pipes have no path of their own.
             const fs::path canonical = fs::canonical(path, error);
-            AddFile(name, *kind, error ? name : NameOf(canonical), name.find_last_of("/\\") + 1);
+            AddFile({name, *kind, false, name.find_last_of("/\\") + 1}, {nullptr, 0, error ? name : NameOf(canonical)});
         }
     }
 
     // Takes the files below a folder; `prefix` is its name with a slash.
     void Walk(const std::string& prefix, const std::string& identity, std::size_t tail) {
-        if (!seen.insert(identity).second) {
+        const auto [place, isNew] = folders.insert(identity);
+        if (!isNew) {
             return;
         }
-        for (const Entry& entry : EntriesOf(prefix)) {
-            const std::string name = prefix + entry.name;
-            if (IsExcluded(name)) {
+        const std::string& folder = *place;
+        for (Entry& entry : EntriesOf(prefix)) {
+            if (IsExcluded(entry.name)) {
                 continue;
             }
             const std::optional<ContentKind> kind = ContentKindOfFile(entry.name);
             if (!entry.isFolder && (!kind || (options.type && options.type != kind))) {
                 continue;
             }
-            std::string own = identity + '/' + entry.name;
+            std::string own;
             if (entry.isLink) {
                 std::error_code error;
-                own = NameOf(fs::canonical(PathOf(name), error));
+                own = NameOf(fs::canonical(PathOf(entry.name), error));
                 if (error) {
-                    AddProblem(name, error);
+                    AddProblem(entry.name, error);
                     continue;
                 }
             }
             if (entry.isFolder) {
-                Walk(name + '/', own, tail);
+                Walk(entry.name + '/', entry.isLink ? own : IdentityIn(folder, entry.name, prefix.size()), tail);
             } else if (entry.isFile) {
-                AddFile(name, *kind, own, tail);
+                AddFile({std::move(entry.name), *kind, false, tail}, {&folder, prefix.size(), std::move(own)});
             }
         }
     }
 
-    std::vector<Entry> EntriesOf(const std::string& folder) {
+    std::vector<Entry> EntriesOf(const std::string& prefix) {
         std::vector<Entry> entries;
         std::error_code error;
-        fs::directory_iterator listing(PathOf(folder), error);
+        fs::directory_iterator listing(PathOf(prefix), error);
         while (!error && listing != fs::directory_iterator()) {
             std::error_code none;
             const bool isLink = listing->is_symlink(none);
             const bool isFolder = listing->is_directory(none);
             // A link that leads nowhere is reported when it is followed.
-            entries.push_back(
-                {NameOf(listing->path().filename()), isLink, isFolder, isLink || listing->is_regular_file(none)});
+            entries.push_back({NameOf(listing->path()), isLink, isFolder, isLink || listing->is_regular_file(none)});
             listing.increment(error);
         }
         if (error) {
-            AddProblem(folder, error);
+            AddProblem(prefix, error);
         }
         std::ranges::sort(entries, {}, &Entry::name);
         return entries;
@@ -125,10 +137,31 @@ private:
                                    [&](const std::string& pattern) { return ExcludesName(pattern, name); });
     }
 
-    void AddFile(const std::string& name, ContentKind kind, const std::string& identity, std::size_t tail) {
-        if (seen.insert(identity).second) {
-            sources.files.push_back({name, kind, false, tail});
+    void AddFile(SourceFile file, Origin origin) {
+        hasOtherNames = hasOtherNames || !origin.canonical.empty();
+        sources.files.push_back(std::move(file));
+        origins.push_back(std::move(origin));
+    }
+
+    // The files of folders differ from each other, but not from those that were named or linked to.
+    void LeaveOutRepeated() {
+        std::unordered_set<std::string> seen;
+        std::vector<SourceFile> files;
+        for (std::size_t i = 0; i < origins.size(); ++i) {
+            Origin& origin = origins[i];
+            SourceFile& file = sources.files[i];
+            if (origin.canonical.empty()) {
+                origin.canonical = IdentityIn(*origin.folder, file.name, origin.leaf);
+            }
+            if (seen.insert(std::move(origin.canonical)).second) {
+                files.push_back(std::move(file));
+            }
         }
+        sources.files = std::move(files);
+    }
+
+    static std::string IdentityIn(const std::string& folder, const std::string& name, std::size_t leaf) {
+        return folder + '/' + name.substr(leaf);
     }
 
     void AddProblem(const std::string& name, const std::error_code& error) {
@@ -138,7 +171,12 @@ private:
 
     const SourceOptions& options;
     Sources sources;
-    std::unordered_set<std::string> seen;
+    // One for each file.
+    std::vector<Origin> origins;
+    // Some have canonical names.
+    bool hasOtherNames = false;
+    // The canonical names of those that were walked, which origins point to.
+    std::unordered_set<std::string> folders;
 };
 
 } // namespace

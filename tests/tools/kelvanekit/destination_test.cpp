@@ -46,7 +46,7 @@ protected:
         std::ranges::sort(names);
         return names;
     }
-    // The temporary file of a destination, as a killed process leaves it.
+    // The temporary file of a destination that is there, as a killed process leaves it.
     std::string LeaveTemporaryFile(const std::string& name) {
         if (const pid_t child = fork(); child == 0) {
             const rlimit tooSmall = {0, 0};
@@ -80,6 +80,26 @@ TEST_F(DestinationTest, KeepsPermissionsAndFollowsLinks) {
     EXPECT_EQ(Write("round", "four"), "Too many levels of symbolic links");
     EXPECT_EQ(Write("sub", "five"), "Is a directory");
     EXPECT_EQ(Names(), (std::vector<std::string>{"a", "b", "dangling", "new", "round", "sub"}));
+}
+
+TEST_F(DestinationTest, KeepsAnOldFileBehindANewOne) {
+    WriteBytes(Name("b"), "old");
+    chmod(Name("b").c_str(), 0640);
+    WriteBytes(Name("c"), "same");
+    const auto written = fs::last_write_time(Name("c")) - std::chrono::hours(1);
+    fs::last_write_time(Name("c"), written);
+    fs::create_symlink("b", Name("link"));
+    DestinationWriter writer({});
+    for (const auto& [name, bytes] : {std::pair("a", "one"), {"b", "two"}, {"d", "new"}, {"c", "same"}}) {
+        EXPECT_EQ(writer.Write(Name(name), bytes), "");
+        EXPECT_EQ(Get(name), bytes);
+    }
+    EXPECT_EQ(ModeOf("b"), 0640U);
+    EXPECT_EQ(fs::last_write_time(Name("c")), written);
+    EXPECT_EQ(writer.Write(Name("e"), "new"), "");
+    EXPECT_EQ(writer.Write(Name("link"), "three"), "");
+    EXPECT_EQ(Get("b"), "three");
+    EXPECT_EQ(Names(), (std::vector<std::string>{"a", "b", "c", "d", "e", "link"}));
 }
 
 TEST_F(DestinationTest, WritesDirectlyToWhatIsNoFile) {
@@ -117,13 +137,14 @@ TEST_F(DestinationTest, WriteProtectionHolds) {
 }
 
 TEST_F(DestinationTest, RemovesWhatAKilledRunLeftAndWaitsForOneThatLives) {
+    WriteBytes(Name("a"), "old");
     const std::string left = LeaveTemporaryFile("a");
     ASSERT_TRUE(left.starts_with(".kelvane-kit-")) << left;
     const int descriptor = open(Name(left).c_str(), O_RDONLY);
     ASSERT_EQ(flock(descriptor, LOCK_EX), 0);
     std::thread owner([&] {
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
-        EXPECT_FALSE(Get("a")) << "written in spite of the lock";
+        EXPECT_EQ(Get("a"), "old") << "written in spite of the lock";
         close(descriptor);
     });
     EXPECT_EQ(Write("a", "new"), "");
@@ -138,9 +159,9 @@ TEST_F(DestinationTest, RemovesWhatAKilledRunLeftAndWaitsForOneThatLives) {
 enum class Fault { Kill, DiskFull, Interrupted };
 
 bool IsOfFiles(unsigned long long call) {
-    static constexpr unsigned long long kCalls[] = {SYS_openat,   SYS_flock, SYS_fstat,     SYS_newfstatat, SYS_read,
-                                                    SYS_write,    SYS_fcntl, SYS_close,     SYS_renameat,   SYS_fchmod,
-                                                    SYS_unlinkat, SYS_fsync, SYS_faccessat, SYS_faccessat2};
+    static constexpr unsigned long long kCalls[] = {
+        SYS_openat, SYS_flock,  SYS_fstat, SYS_newfstatat, SYS_read,     SYS_write,     SYS_fcntl,     SYS_close,
+        SYS_linkat, SYS_fchmod, SYS_fsync, SYS_unlinkat,   SYS_renameat, SYS_faccessat, SYS_faccessat2};
     return std::ranges::find(kCalls, call) != std::end(kCalls);
 }
 

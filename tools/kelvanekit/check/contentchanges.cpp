@@ -219,7 +219,7 @@ private:
 } // namespace
 
 std::string NoteChanges(FieldReader& reader, LoadedContent& content) {
-    const std::string written = WriteContent(content, FileArchiveType::Text);
+    const std::string written = WriteContent(content);
     Comparison comparison(reader, written);
     comparison.Run();
     return comparison.gained;

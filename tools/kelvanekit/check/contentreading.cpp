@@ -15,6 +15,9 @@ namespace Vorn {
 
 namespace {
 
+// Where the fields of a binary file begin, behind its version.
+constexpr std::size_t kBinaryFields = sizeof kBinaryHeader + sizeof kArchiveVersion;
+
 bool HasMark(std::string_view line) {
     const std::string header = ToUtf8(kTextMark);
     return line.substr(0, kHeaderLineCapacity - 1).find(header) != std::string_view::npos;
@@ -45,7 +48,8 @@ bool ContentReading::IsFlawless() const {
     LoadedContent read(kind);
     if (IsBinary()) {
         BinaryReader strict(bytes, FieldReader::Mode::Strict, names);
-        return strict.Read(read) && IsKept(strict, read, FileArchiveType::Binary, bytes);
+        return strict.Read(read) &&
+               IsKept(strict, read, FileArchiveType::Binary, bytes.substr(std::min(bytes.size(), kBinaryFields)));
     }
     if (!findings.empty()) {
         return false;
@@ -60,14 +64,10 @@ bool ContentReading::IsFlawless() const {
            IsKept(strict, read, FileArchiveType::Text, {fields, static_cast<std::size_t>(text->End() - fields)});
 }
 
-// Whether a content that was read without a finding is written as it is. In front of binary fields there is a header.
+// Whether a content that was read without a finding is written as it is.
 bool ContentReading::IsKept(const FieldReader& strict, LoadedContent& read, FileArchiveType form,
                             std::string_view fields) const {
-    if (strict.GetVersion() != kArchiveVersion || HasSuspectRelations(read)) {
-        return false;
-    }
-    const std::string written = WriteContent(read, form, fields.size());
-    return form == FileArchiveType::Text ? IsSameText(fields, written) : fields.ends_with(written);
+    return strict.GetVersion() == kArchiveVersion && !HasSuspectRelations(read) && IsWrittenAs(read, form, fields);
 }
 
 bool ContentReading::ReadFields(bool keepsValues) {

@@ -15,25 +15,6 @@ namespace {
 
 constexpr std::size_t kMarkSize = 3;
 
-// Keeps what is written in a string, but for the first bytes.
-class StringStream final : public ByteStream {
-public:
-    StringStream(std::string& _bytes, std::size_t _skipped) : bytes(_bytes), skipped(_skipped) {}
-
-    std::ptrdiff_t Read(void*, std::size_t) override { return -1; }
-    bool Write(const void* part, std::size_t count) override {
-        const std::size_t left = std::min(skipped, count);
-        bytes.append(static_cast<const char*>(part) + left, count - left);
-        skipped -= left;
-        return true;
-    }
-    bool Close() override { return true; }
-
-private:
-    std::string& bytes;
-    std::size_t skipped;
-};
-
 // Takes the next number or mark of a value.
 std::string_view TakeToken(std::string_view& text) {
     text = Trimmed(text);
@@ -65,16 +46,38 @@ std::string_view TakeTextLine(std::string_view& text) {
     return Trimmed(line);
 }
 
-} // namespace
-
-std::unique_ptr<ByteStream> WrittenFile::Store::Open(std::u16string_view, FileAccess) {
-    return std::make_unique<StringStream>(bytes, markSize);
+// The checks of records while they are written repeat those of reading.
+void WriteTo(WrittenFile& written, LoadedContent& content) {
+    const DroppedReports reports;
+    content.Write(written.GetArchive());
 }
 
-WrittenFile::WrittenFile(FileArchiveType form, std::size_t expectedSize)
-    : store(bytes, form == FileArchiveType::Text ? kMarkSize : 0) {
-    bytes.reserve(expectedSize + expectedSize / 8);
+} // namespace
+
+class WrittenFile::Stream final : public ByteStream {
+public:
+    explicit Stream(WrittenFile& _written) : written(_written) {}
+
+    std::ptrdiff_t Read(void*, std::size_t) override { return -1; }
+    bool Write(const void* part, std::size_t count) override {
+        written.Keep({static_cast<const char*>(part), count});
+        return true;
+    }
+    bool Close() override { return true; }
+
+private:
+    WrittenFile& written;
+};
+
+std::unique_ptr<ByteStream> WrittenFile::Store::Open(std::u16string_view, FileAccess) {
+    return std::make_unique<Stream>(written);
+}
+
+WrittenFile::WrittenFile(FileArchiveType form, std::string_view _expected)
+    : expected(_expected), markLeft(form == FileArchiveType::Text ? kMarkSize : 0) {
     if (form == FileArchiveType::Text) {
+        const std::size_t end = expected.find('\n');
+        dropsReturns = end != std::string_view::npos && !expected.substr(0, end).ends_with('\r');
         file = files.Open(u"written", FileAccess::Write, FileTranslation::Text);
         archive = std::make_unique<TextFileArchive>(file, false);
     } else {
@@ -85,6 +88,28 @@ WrittenFile::WrittenFile(FileArchiveType form, std::size_t expectedSize)
 
 WrittenFile::~WrittenFile() {
     Finish();
+}
+
+void WrittenFile::Keep(std::string_view part) {
+    const std::size_t ofMark = std::min(markLeft, part.size());
+    markLeft -= ofMark;
+    part.remove_prefix(ofMark);
+    if (dropsReturns) {
+        withoutReturns = part;
+        std::erase(withoutReturns, '\r');
+        part = withoutReturns;
+    }
+    if (bytes.empty() && part == expected.substr(agreed, part.size())) {
+        agreed += part.size();
+        return;
+    }
+    if (bytes.empty()) {
+        const std::size_t line = expected.substr(0, agreed).rfind('\n') + 1;
+        bytes.reserve(expected.size() - line);
+        bytes = expected.substr(line, agreed - line);
+        agreed = line;
+    }
+    bytes += part;
 }
 
 std::string& WrittenFile::Finish() {
@@ -112,14 +137,6 @@ std::string_view KeptValues::At(std::int32_t number) {
     return number < 0 ? std::string_view() : lines[static_cast<std::size_t>(number)];
 }
 
-std::string WriteContent(LoadedContent& content, FileArchiveType form, std::size_t expectedSize) {
-    WrittenFile written(form, expectedSize);
-    // The checks of records while they are written repeat those of reading.
-    const DroppedReports reports;
-    content.Write(written.GetArchive());
-    return std::move(written.Finish());
-}
-
 bool IsSameValue(std::string_view left, std::string_view right) {
     if (left == right) {
         return true;
@@ -137,10 +154,21 @@ bool IsSameValue(std::string_view left, std::string_view right) {
     return true;
 }
 
+std::string WriteContent(LoadedContent& content) {
+    WrittenFile written(FileArchiveType::Text);
+    WriteTo(written, content);
+    return std::move(written.Finish());
+}
+
+bool IsWrittenAs(LoadedContent& content, FileArchiveType form, std::string_view fields) {
+    WrittenFile written(form, fields);
+    WriteTo(written, content);
+    const std::string_view other = written.Finish();
+    const std::string_view rest = fields.substr(written.AgreedSize());
+    return form == FileArchiveType::Text ? IsSameText(rest, other) : rest == other;
+}
+
 bool IsSameText(std::string_view left, std::string_view right) {
-    if (left == right) {
-        return true;
-    }
     while (!left.empty() && !right.empty()) {
         const std::string_view leftLine = TakeTextLine(left);
         const std::string_view rightLine = TakeTextLine(right);

@@ -12,31 +12,44 @@ namespace Vorn {
 // A file in memory with the archive that writes it.
 class WrittenFile {
 public:
-    explicit WrittenFile(FileArchiveType form, std::size_t expectedSize = 0);
+    // What agrees with the beginning of `expected` need not be kept.
+    explicit WrittenFile(FileArchiveType form, std::string_view expected = {});
     WrittenFile(const WrittenFile&) = delete;
     WrittenFile& operator=(const WrittenFile&) = delete;
     ~WrittenFile();
 
     Archive& GetArchive() { return *archive; }
 
-    // All that was written, without byte-order mark. Nothing can be written any more.
+    // What was written behind the part that agrees, without byte-order mark. Nothing can be written any more.
     std::string& Finish();
 
+    // How much of what was expected was written, in whole lines if there is more.
+    std::size_t AgreedSize() const { return agreed; }
+
 private:
+    class Stream;
     class Store final : public FileStore {
     public:
-        Store(std::string& _bytes, std::size_t _markSize) : bytes(_bytes), markSize(_markSize) {}
+        explicit Store(WrittenFile& _written) : written(_written) {}
 
         std::unique_ptr<ByteStream> Open(std::u16string_view name, FileAccess access) override;
         bool Exists(std::u16string_view) const override { return true; }
 
     private:
-        std::string& bytes;
-        const std::size_t markSize;
+        WrittenFile& written;
     };
 
+    void Keep(std::string_view part);
+
+    const std::string_view expected;
+    std::size_t agreed = 0;
+    // What is expected has line feeds alone.
+    bool dropsReturns = false;
+    std::string withoutReturns;
+    // The bytes of the mark that are still to come.
+    std::size_t markLeft;
     std::string bytes;
-    Store store;
+    Store store{*this};
     FileSystem files{store};
     File* file;
     std::unique_ptr<Archive> archive;
@@ -62,8 +75,12 @@ private:
     std::vector<std::string_view> lines;
 };
 
-// What a conversion makes of a content, without byte-order mark, header and version.
-std::string WriteContent(LoadedContent& content, FileArchiveType form, std::size_t expectedSize = 0);
+// What a conversion to text makes of a content, without byte-order mark, header and version.
+std::string WriteContent(LoadedContent& content);
+
+// Whether a conversion to the same form makes of a content what it was read from, without header and version: the same
+// bytes, or lines that mean the same.
+bool IsWrittenAs(LoadedContent& content, FileArchiveType form, std::string_view fields);
 
 // Whether two values mean the same to a reader: the same text, the same number in another spelling.
 bool IsSameValue(std::string_view left, std::string_view right);

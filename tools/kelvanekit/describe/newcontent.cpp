@@ -95,7 +95,7 @@ public:
         DescribingArchive archive(trial.answers, ListAnswer::Empty, DescribingArchive::kEverywhere);
         archive.Describe(content);
         const std::string text = ToUtf8(kTextHeader) + '\n' + ToUtf8(kVersionLabel) + ' ' +
-                                 std::to_string(kArchiveVersion) + '\n' + WriteContent(content, FileArchiveType::Text);
+                                 std::to_string(kArchiveVersion) + '\n' + WriteContent(content);
         ContentConverter converter;
         converter.Convert(form.kind, "new", text, FileArchiveType::Text);
         return std::string(converter.Bytes());

@@ -233,6 +233,18 @@ TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {
               "3 wrong-type entityType\n");
 }
 
+TEST(CheckTest, ADoubledEntryIsToldFromAWrongCount) {
+    const auto check = [](std::string_view from, std::string_view to) {
+        return Shown(CheckContent(ContentKind::Entity, Edited("buff_gravity_snare.entity", from, to)));
+    };
+    EXPECT_EQ(check("object \"Frigate\"", "object \"Frigate\"\r\n\t\tobject \"Frigate\""),
+              "26 doubled-line instantAction[1].targetFilter.object\n");
+    EXPECT_EQ(check("object \"Frigate\"", "object \"Frigate\"\r\n\t\tobject \"Frigate\"\r\n\t\tobject \"Frigate\""),
+              "23 count-mismatch instantAction[1].targetFilter.numObjects\n");
+    EXPECT_EQ(check("object \"Frigate\"", "object \"Frigate\"\r\n\t\tobject \"Fighter\""),
+              "23 count-mismatch instantAction[1].targetFilter.numObjects\n");
+}
+
 TEST(CheckTest, WhatOtherToolsLeaveIsExplained) {
     const auto explained = [](const std::string& bytes) {
         const Findings findings = CheckContent(ContentKind::Entity, bytes);

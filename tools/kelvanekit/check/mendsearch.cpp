@@ -23,6 +23,7 @@ constexpr std::int64_t kMostReadings = 60;
 // Mends in a row that nothing confirms: what follows them has nothing to do with the keys.
 constexpr int kMostGuesses = 16;
 constexpr std::int32_t kFarthestLine = 48;
+constexpr std::int32_t kLongestRun = 1000;
 constexpr std::size_t kRecentChoices = 6;
 // The type of a content stands behind its version.
 constexpr std::int32_t kLastTypeAsk = 2;
@@ -326,28 +327,31 @@ private:
     void AddSkips(const Trial& trial) {
         const Mismatch& at = trial.mismatch;
         const std::int32_t group = GroupLength(at.line);
-        const bool isDoubled = at.line > 0 && Key(at.line - 1) == Key(at.line);
-        const auto isSameAs = [&](std::int32_t line) {
-            return line >= 0 && Trimmed(text.Line(line)) == Trimmed(text.Line(at.line));
-        };
-        // One more of many equal lines is one more entry.
-        const bool isSame = isDoubled && isSameAs(at.line - 1) && !isSameAs(at.line - 2);
         const bool isSurplus = std::ranges::any_of(at.endedLists, [](const OpenList& list) {
             return list.shape.rule == ListRule::Fatal && list.count > list.shape.limit;
         });
-        const auto skip = [&](double weight, std::int32_t count) {
-            Add(trial, isSurplus ? Weight::kKnown : weight, {{Mend::Kind::SkipLines, kNone, at.line, count}},
+        const auto skip = [&](double weight, std::int32_t line, std::int32_t count) {
+            Add(trial, isSurplus ? Weight::kKnown : weight, {{Mend::Kind::SkipLines, kNone, line, count}},
                 at.line + count);
         };
-        skip(isSame ? Weight::kSameLine : isDoubled ? Weight::kDoubledLine : Weight::kOneLine, 1);
+        const std::int32_t repeated = RepeatedLine(at.line);
+        const bool isSkipped = std::ranges::any_of(
+            trial.mends, [&](const Mend& mend) { return mend.IsOfLines() && mend.line == repeated; });
+        if (repeated != kNone && !isSkipped) {
+            skip(Weight::kSameLine, repeated, 1);
+        } else {
+            const bool isDoubled = at.line > 0 && Key(at.line - 1) == Key(at.line);
+            skip(isDoubled ? Weight::kDoubledLine : Weight::kOneLine, at.line, 1);
+        }
         if (group > 1) {
             // An entry more than a count says is a mistake of the count.
-            skip(IsEntry(at) ? Weight::kEntry : Weight::kGroup, group);
+            skip(IsEntry(at) ? Weight::kEntry : Weight::kGroup, at.line, group);
         }
         if (at.label.empty()) {
             const std::int32_t rest = text.LineCount() - at.line;
             const bool isFile = IsLabel(Key(at.line), kTextHeader);
-            skip(isFile || rest == 1 ? Weight::kOneLine : std::min(Weight::kRest + 0.25 * (rest - 2), 4.0), rest);
+            skip(isFile || rest == 1 ? Weight::kOneLine : std::min(Weight::kRest + 0.25 * (rest - 2), 4.0), at.line,
+                 rest);
             return;
         }
         for (std::int32_t count = 2; count < kFarthestLine; ++count) {
@@ -360,6 +364,21 @@ private:
                 break;
             }
         }
+    }
+
+    // The second of the only two neighbours that are the same among the lines with the key of this one, which it ends.
+    // One more of many equal lines is one more entry.
+    std::int32_t RepeatedLine(std::int32_t line) const {
+        std::int32_t repeated = kNone;
+        for (std::int32_t at = line; at > std::max(line - kLongestRun, 0) && Key(at - 1) == Key(line); --at) {
+            if (Trimmed(text.Line(at - 1)) == Trimmed(text.Line(at))) {
+                if (repeated != kNone) {
+                    return kNone;
+                }
+                repeated = at;
+            }
+        }
+        return repeated;
     }
 
     // How many lines belong together: one, or the first of a group and those that are indented below it.

@@ -245,6 +245,24 @@ TEST(CheckTest, ADoubledEntryIsToldFromAWrongCount) {
               "23 count-mismatch instantAction[1].targetFilter.numObjects\n");
 }
 
+TEST(CheckTest, LinesThatWereJoinedAreOneFinding) {
+    for (const char* blank : {"", " ", "\t"}) {
+        const auto check = [&](std::string_view line, std::string_view next) {
+            return Shown(CheckContent(ContentKind::Entity,
+                                      Edited("frigate_lancer.entity", std::string(line) + "\r\n" + std::string(next),
+                                             std::string(line) + blank + std::string(next))));
+        };
+        EXPECT_EQ(check("bombingFreqTime 6.000000", "baseRange"), "21 joined-lines baseRange\n");
+        EXPECT_EQ(check("hasBombingLevels TRUE", "baseDamage"), "10 joined-lines baseDamage\n");
+        EXPECT_EQ(check("defaultAutoAttackRange \"GravityWell\"", "defaultAutoAttackOn"),
+                  "4 joined-lines defaultAutoAttackOn\n");
+    }
+    EXPECT_EQ(Shown(CheckContent(ContentKind::Entity,
+                                 Edited("frigate_lancer.entity", "6.000000\r\nbaseRange 4200.000000\r\nbombTransitTime",
+                                        "6.000000 baseRange 4200.000000 bombTransitTime"))),
+              "21 joined-lines baseRange\n");
+}
+
 TEST(CheckTest, WhatOtherToolsLeaveIsExplained) {
     const auto explained = [](const std::string& bytes) {
         const Findings findings = CheckContent(ContentKind::Entity, bytes);

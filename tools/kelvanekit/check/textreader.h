@@ -80,6 +80,7 @@ private:
     void NoteValue(ValueProblem& problem);
     bool NoteLine(std::string_view content);
     void NoteMissing(bool isHeader);
+    bool NoteJoined(std::string_view key);
     void NoteTruncated();
     void NoteSkipped(std::int32_t count);
     void NoteSwapped();

@@ -98,6 +98,9 @@ void TextReader::NoteMissing(bool isHeader) {
         return;
     }
     const AskedField& field = asks.back();
+    if (NoteJoined(ToUtf8(field.label))) {
+        return;
+    }
     const std::string name = field.kind == FieldKind::Row ? "a row" : Quoted(field.label);
     const bool isGroup = field.kind == FieldKind::Record;
     Finding& finding = Add(isGroup ? Code("missing-section") : Code("missing-key"), LastAsk(),
@@ -107,6 +110,33 @@ void TextReader::NoteMissing(bool isHeader) {
                                           : ""));
     finding.help =
         cursor.Line() < text.LineCount() ? "it belongs in front of this line" : "it belongs at the end of the file";
+}
+
+// A key that stands behind the value of the line in front, where something was noted already. False if it does not.
+bool TextReader::NoteJoined(std::string_view key) {
+    if (key.empty() || findings.empty() || findings.back().place.line != cursor.Line()) {
+        return false;
+    }
+    const std::string_view content = text.Line(cursor.Line() - 1);
+    std::string_view rest = Trimmed(content);
+    do {
+        rest = Trimmed(rest.substr(KeyOf(rest).size()));
+        if (rest.empty()) {
+            return false;
+        }
+    } while (!KeyOf(rest).ends_with(key));
+    rest.remove_prefix(KeyOf(rest).size() - key.size());
+    Finding& finding = findings.back();
+    if (finding.code != Code("joined-lines")) {
+        finding = {};
+        finding.code = Code("joined-lines");
+        finding.place = {cursor.Line(), static_cast<std::int32_t>(rest.data() - content.data()),
+                         static_cast<std::int32_t>(rest.data() + rest.size() - content.data())};
+        finding.key = PathOf(asks, LastAsk());
+        finding.message = Quoted(key) + " stands on the line of another key, and is lost";
+        finding.help = "begin a new line with it";
+    }
+    return true;
 }
 
 void TextReader::NoteTruncated() {

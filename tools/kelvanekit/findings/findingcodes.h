@@ -54,6 +54,15 @@ Right:
     width 12.000000
     height 7.500000
 )"},
+    {"joined-lines", Severity::Error, R"(A key stands on the line of the one before it, as when the end of a line was deleted.
+A line has one key and its value: what follows them on the line is lost.
+
+Wrong:
+    width 12.000000 height 7.500000
+Right:
+    width 12.000000
+    height 7.500000
+)"},
     {"moved-line", Severity::Error, R"(A line, or a group of lines, stands at another place than its own.
 Keys are read in one fixed order: all behind the first of the two places is lost. The
 message tells where the line belongs.

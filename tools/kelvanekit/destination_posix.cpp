@@ -370,12 +370,16 @@ private:
     }
 
 #ifdef O_TMPFILE
-    // Older systems let only the superuser give a name to a descriptor itself.
     bool Link(const Descriptor& file, const std::string& leaf) const {
+        if (linkat(file.Number(), "", descriptor.Number(), leaf.c_str(), AT_EMPTY_PATH) == 0) {
+            return true;
+        }
+        if (errno == EEXIST) {
+            return false;
+        }
+        // Older systems let only the superuser give a name to a descriptor itself.
         const std::string path = "/proc/self/fd/" + std::to_string(file.Number());
-        return linkat(file.Number(), "", descriptor.Number(), leaf.c_str(), AT_EMPTY_PATH) == 0 ||
-               (errno != EEXIST &&
-                linkat(AT_FDCWD, path.c_str(), descriptor.Number(), leaf.c_str(), AT_SYMLINK_FOLLOW) == 0);
+        return linkat(AT_FDCWD, path.c_str(), descriptor.Number(), leaf.c_str(), AT_SYMLINK_FOLLOW) == 0;
     }
 #endif
 

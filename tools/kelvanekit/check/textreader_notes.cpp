@@ -126,12 +126,16 @@ bool TextReader::NoteJoined(std::string_view key) {
         }
     } while (!KeyOf(rest).ends_with(key));
     rest.remove_prefix(KeyOf(rest).size() - key.size());
+    const auto place = static_cast<std::size_t>(rest.data() - content.data());
+    if (std::ranges::count(content.substr(0, place), '"') % 2 != 0) {
+        return false;
+    }
     Finding& finding = findings.back();
     if (finding.code != Code("joined-lines")) {
         finding = {};
         finding.code = Code("joined-lines");
-        finding.place = {cursor.Line(), static_cast<std::int32_t>(rest.data() - content.data()),
-                         static_cast<std::int32_t>(rest.data() + rest.size() - content.data())};
+        finding.place = {cursor.Line(), static_cast<std::int32_t>(place),
+                         static_cast<std::int32_t>(place + rest.size())};
         finding.key = PathOf(asks, LastAsk());
         finding.message = Quoted(key) + " stands on the line of another key, and is lost";
         finding.help = "begin a new line with it";

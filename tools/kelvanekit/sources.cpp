@@ -161,7 +161,7 @@ private:
     }
 
     static std::string IdentityIn(const std::string& folder, const std::string& name, std::size_t leaf) {
-        return folder + '/' + name.substr(leaf);
+        return folder + static_cast<char>(fs::path::preferred_separator) + name.substr(leaf);
     }
 
     void AddProblem(const std::string& name, const std::error_code& error) {

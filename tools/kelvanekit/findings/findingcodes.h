@@ -54,7 +54,8 @@ Right:
     width 12.000000
     height 7.500000
 )"},
-    {"joined-lines", Severity::Error, R"(A key stands on the line of the one before it, as when the end of a line was deleted.
+    {"joined-lines", Severity::Error,
+     R"(A key stands on the line of the one before it, as when the end of a line was deleted.
 A line has one key and its value: what follows them on the line is lost.
 
 Wrong:

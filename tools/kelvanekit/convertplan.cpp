@@ -1,6 +1,7 @@
 #include "tools/kelvanekit/convertplan.h"
 
 #include "tools/kelvanekit/filename.h"
+#include "tools/kelvanekit/namehash.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -60,11 +61,7 @@ struct FileIdentity {
 
 struct FileIdentityHash {
     std::size_t operator()(const FileIdentity& identity) const {
-        std::size_t hash = identity.folder;
-        for (const char letter : identity.leaf) {
-            hash = (hash ^ static_cast<unsigned char>(Folded(letter))) * 1099511628211U;
-        }
-        return hash;
+        return static_cast<std::size_t>(HashOfName(identity.leaf, Folded) + identity.folder);
     }
 };
 

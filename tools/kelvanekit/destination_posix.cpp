@@ -1,5 +1,7 @@
 #include "tools/kelvanekit/destination.h"
 
+#include "tools/kelvanekit/namehash.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -134,10 +136,7 @@ void TakeOverPermissions(const Descriptor& file, const FileStatus& status, const
 
 // The name of a destination's temporary file, which is no longer than any file system allows.
 std::string TemporaryName(std::string_view leaf) {
-    std::uint64_t hash = 14695981039346656037U;
-    for (const char letter : leaf) {
-        hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211U;
-    }
+    const std::uint64_t hash = HashOfName(leaf);
     std::string name = ".kelvane-kit-";
     for (int shift = 60; shift >= 0; shift -= 4) {
         name += "0123456789abcdef"[hash >> shift & 15];

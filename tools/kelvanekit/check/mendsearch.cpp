@@ -2,6 +2,7 @@
 
 #include "engine/archive/archiveheader.h"
 #include "tools/kelvanekit/check/likeness.h"
+#include "tools/kelvanekit/check/linegroups.h"
 
 #include <algorithm>
 #include <memory>
@@ -23,7 +24,6 @@ constexpr std::int64_t kMostReadings = 60;
 // Mends in a row that nothing confirms: what follows them has nothing to do with the keys.
 constexpr int kMostGuesses = 16;
 constexpr std::int32_t kFarthestLine = 48;
-constexpr std::int32_t kLongestRun = 1000;
 constexpr std::size_t kRecentChoices = 6;
 // The type of a content stands behind its version.
 constexpr std::int32_t kLastTypeAsk = 2;
@@ -221,7 +221,7 @@ private:
     void AddChildren(const Trial& trial, double weight) {
         parentWeight = weight;
         const Mismatch& at = trial.mismatch;
-        if (const std::int32_t remark = RemarkLength(at.line); remark > 0 && !at.isAbnormalEnd) {
+        if (const std::int32_t remark = RemarkLength(text, at.line); remark > 0 && !at.isAbnormalEnd) {
             Add(trial, Weight::kRemark, {{Mend::Kind::SkipLines, kNone, at.line, remark}}, at.line + remark);
             return;
         }
@@ -239,22 +239,6 @@ private:
             AddKeys(trial);
             AddMissing(trial);
         }
-    }
-
-    // How many lines are certainly none of a content: a blank one, a comment, or the second half of a merge that was
-    // not finished.
-    std::int32_t RemarkLength(std::int32_t line) const {
-        if (line >= text.LineCount() || (!Key(line).empty() && RemarkOf(Key(line)) == Remark::None)) {
-            return 0;
-        }
-        if (RemarkOf(Key(line)) == Remark::MergeMiddle) {
-            for (std::int32_t end = line + 1; end < std::min(line + kFarthestLine, text.LineCount()); ++end) {
-                if (RemarkOf(Key(end)) == Remark::MergeEnd) {
-                    return end - line + 1;
-                }
-            }
-        }
-        return 1;
     }
 
     // Mends of the line ahead as a line for what is asked for.
@@ -282,7 +266,7 @@ private:
     // stands: only what is behind it proves anything.
     void AddMissing(const Trial& trial) {
         const Mismatch& at = trial.mismatch;
-        const std::int32_t group = GroupLength(at.line);
+        const std::int32_t group = GroupLength(text, at.line);
         const std::int32_t base = at.line + (group > 1 ? std::min(group, kFarthestLine) : 0);
         const std::string_view key = Key(at.line);
         const bool isRowAhead = key.starts_with('[');
@@ -326,7 +310,7 @@ private:
     // Mends of lines that nothing asks for.
     void AddSkips(const Trial& trial) {
         const Mismatch& at = trial.mismatch;
-        const std::int32_t group = GroupLength(at.line);
+        const std::int32_t group = GroupLength(text, at.line);
         const bool isSurplus = std::ranges::any_of(at.endedLists, [](const OpenList& list) {
             return list.shape.rule == ListRule::Fatal && list.count > list.shape.limit;
         });
@@ -334,7 +318,7 @@ private:
             Add(trial, isSurplus ? Weight::kKnown : weight, {{Mend::Kind::SkipLines, kNone, line, count}},
                 at.line + count);
         };
-        const std::int32_t repeated = RepeatedLine(at.line);
+        const std::int32_t repeated = RepeatedLine(text, at.line);
         const bool isSkipped = std::ranges::any_of(
             trial.mends, [&](const Mend& mend) { return mend.IsOfLines() && mend.line == repeated; });
         if (repeated != kNone && !isSkipped) {
@@ -364,31 +348,6 @@ private:
                 break;
             }
         }
-    }
-
-    // The second of the only two neighbours that are the same among the lines with the key of this one, which it ends.
-    // One more of many equal lines is one more entry.
-    std::int32_t RepeatedLine(std::int32_t line) const {
-        std::int32_t repeated = kNone;
-        for (std::int32_t at = line; at > std::max(line - kLongestRun, 0) && Key(at - 1) == Key(line); --at) {
-            if (Trimmed(text.Line(at - 1)) == Trimmed(text.Line(at))) {
-                if (repeated != kNone) {
-                    return kNone;
-                }
-                repeated = at;
-            }
-        }
-        return repeated;
-    }
-
-    // How many lines belong together: one, or the first of a group and those that are indented below it.
-    std::int32_t GroupLength(std::int32_t line) const {
-        const std::string_view first = text.Line(line);
-        std::int32_t end = line + 1;
-        while (end < text.LineCount() && IndentationOf(text.Line(end)) > IndentationOf(first)) {
-            ++end;
-        }
-        return end - line;
     }
 
     // Whether a line looks like one more entry of a list that has just ended.

@@ -233,6 +233,17 @@ TEST(CheckTest, AnotherTypeThanTheKeysHaveIsOneFinding) {
               "3 wrong-type entityType\n");
 }
 
+TEST(CheckTest, AFileThatEndsWithinAKeyIsOneFinding) {
+    const std::string& bytes = SampleNamed("frigate_lancer.entity").bytes;
+    const std::size_t key = bytes.find("muzzleSoundMinRespawnTime");
+    for (const std::size_t length : {1U, 4U, 24U}) {
+        for (const char* end : {"", "\r\n"}) {
+            EXPECT_EQ(Shown(CheckContent(ContentKind::Entity, bytes.substr(0, key + length) + end)),
+                      "32 truncated bombEffectsDef.muzzleSoundMinRespawnTime\n");
+        }
+    }
+}
+
 TEST(CheckTest, ADoubledEntryIsToldFromAWrongCount) {
     const auto check = [](std::string_view from, std::string_view to) {
         return Shown(CheckContent(ContentKind::Entity, Edited("buff_gravity_snare.entity", from, to)));

@@ -225,6 +225,12 @@ private:
             Add(trial, Weight::kRemark, {{Mend::Kind::SkipLines, kNone, at.line, remark}}, at.line + remark);
             return;
         }
+        if (IsCutKey(at)) {
+            Add(trial, Weight::kOneLine,
+                {{Mend::Kind::MissingRest, at.ask, kNone, kNone}, {Mend::Kind::SkipLines, kNone, at.line, 1}},
+                at.line + 1);
+            return;
+        }
         AddCounts(trial);
         AddChoices(trial);
         if (at.isAbnormalEnd) {
@@ -239,6 +245,13 @@ private:
             AddKeys(trial);
             AddMissing(trial);
         }
+    }
+
+    // Whether the file ends within the key that is asked for.
+    bool IsCutKey(const Mismatch& at) const {
+        const std::string_view content = Trimmed(text.Line(at.line));
+        return at.line + 1 == text.LineCount() && content.size() < at.label.size() &&
+               IsLabel(content, at.label.substr(0, content.size()));
     }
 
     // Mends of the line ahead as a line for what is asked for.

@@ -154,7 +154,7 @@ void TextReader::NoteSkipped(std::int32_t count) {
     const OpenList* ended = endedCount > 0 ? &endedLists[(endedCount - 1) % kLatest] : nullptr;
     const bool isSurplus = ended != nullptr && ended->endAsk == askCount && ended->shape.rule == ListRule::Fatal &&
                            ended->count > ended->shape.limit;
-    if (!IsNoting() || isSurplus) {
+    if (!IsNoting() || isSurplus || isRestMissing) {
         return;
     }
     const std::int32_t line = cursor.Line();

@@ -15,8 +15,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
+#ifdef _WIN32
+constexpr std::string_view kSlashes = "/\\";
+
+// Capitals are not told from small letters.
+constexpr char Folded(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+#else
+constexpr std::string_view kSlashes = "/";
+
+constexpr char Folded(char letter) {
+    return letter;
+}
+#endif
+
 bool IsSlash(char letter) {
-    return letter == '/' || letter == fs::path::preferred_separator;
+    return kSlashes.find(letter) != std::string_view::npos;
 }
 
 // Where the last name begins.
@@ -36,17 +51,6 @@ bool IsFolder(const std::string& name) {
     std::error_code error;
     return fs::is_directory(PathOf(name), error);
 }
-
-#ifdef _WIN32
-// Capitals are not told from small letters.
-constexpr char Folded(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-#else
-constexpr char Folded(char letter) {
-    return letter;
-}
-#endif
 
 // Two are equal if they are of one file.
 struct FileIdentity {
